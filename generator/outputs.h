@@ -1,0 +1,32 @@
+// Generated files in memory. The generator appends to OutputFiles; nothing is written or sent
+// before the whole site stands.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <vector>
+
+struct OutputFile {
+    QString Name; // as in the output folder; may hold %LID% until the finishing pass, and blanks at
+                  // its end
+    QString Lang; // language code; empty for a file that serves all languages
+    QByteArray Md5;       // 32 lower-case hexadecimal digits, set by the finishing pass
+    bool SendNow = false; // set by the FTP transport: differs from what was last sent
+    QByteArray Data;
+};
+
+// Files of the present generation in the order in which they were made; emptied at each one. Two
+// files of the same name are both kept, and the later one overwrites the earlier when written.
+extern std::vector<OutputFile> OutputFiles;
+
+// Yields to the event loop, then appends.
+void AddOutputFile(OutputFile file);
+
+// Forgets all files.
+void ClearOutputFiles();
+
+// Writes every file with a name into `folder` (made if missing, one level only), yielding before
+// each. The first failure ends the run and returns false; files written so far stay. A name that
+// would leave the folder (a separator or "..") and the names of the catalogue's own files are
+// failures too.
+bool SaveOutputFiles(const QString& folder);

@@ -1,0 +1,118 @@
+// The design template: a .zdt file with a header of 561 bytes, a table of sections of 239 bytes
+// each, and the sections' bodies. Integers are little-endian, text is Windows-1252, fixed fields
+// are padded with blanks. docs/designs.md describes the format. Owns the loaded template, which is
+// rebuilt at each load.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <array>
+#include <vector>
+
+class QIODevice;
+
+inline constexpr int kHeaderSize = 561;  // bytes
+inline constexpr int kSectionSize = 239; // bytes
+inline constexpr int kMaxSections = 101;
+
+// What FindSection returns when there is none. Stored nowhere, but compared in lists of sections.
+inline constexpr int kNoSection = 65535;
+
+// Roles of sections, as stored in files.
+enum SectionKind {
+    kKindNone = 0,
+    kKindHomePage = 1,
+    kKindProductPage = 2,
+    kKindCopiedFile = 3,
+    kKindZoneList = 4,
+    kKindPictureBlock = 5,
+    kKindEmphasis1 = 6,
+    kKindEmphasis2 = 7,
+    kKindAboutUs = 8,
+    kKindDataList = 9,
+    kKindFindUs = 10,
+    kKindLanguagePage = 11,
+    kKindProductPicture = 12,
+    kKindPreview = 13,
+    kKindCorpLogo = 14,
+    kKindExtraPicture = 15,
+    kKindFindUsMap = 16,
+    kKindPicturePage = 17,
+    kKindFixedPage = 18,
+    kKindNoPicture = 19,
+    kKindLayoutPage = 20,
+    kKindLanguages = 21,
+    kKindLanguageSelector = 22,
+    kKindChoiceList = 23,
+    kKindZoneBlock = 24,
+    kKindZonePage = 25,
+    kKindZoneLinks = 26,
+    kKindCategoryTree = 27,
+    kKindColorSets = 28
+};
+
+struct TemplateHeaderRecord {
+    QString Magic;       // "KPF"
+    QString Tag;         // not interpreted
+    QString Name;        // title, 50 characters, padded
+    QString Description; // free text, 497 characters, padded; also a parameter string
+    int Scrambled = 0;   // 1: every body byte is stored complemented; anything else is plain
+    int MaxEmph1 = 0;    // capacity of the first emphasised block, 0 to 255
+    int MaxEmph2 = 0;    // added to it for the second, modulo 256
+    int SectionCount = 0;
+};
+
+struct TemplateSectionRecord {
+    QString Name;         // 25 characters, padded
+    qint32 Position = 0;  // of the body in the file, counted from 1
+    qint32 LastIndex = 0; // bytes of the body minus 1; -1: no body
+    int Kind = 0;
+    QString Params; // 200 characters, padded
+};
+
+extern TemplateHeaderRecord TemplateHeader;
+extern std::array<TemplateSectionRecord, kMaxSections> TemplateSections; // unused slots have kind 0
+extern std::array<QByteArray, kMaxSections>
+    SectionBodies; // a single zero byte where nothing was loaded
+
+// Every body becomes a single zero byte, header and table are emptied, OutputFiles is cleared.
+// Before each load.
+void ResetTemplateState();
+
+// False after the required warning box if the three characters of the magic are not "KPF" or the
+// file is too short for a header.
+bool LoadTemplateHeader(QIODevice& file);
+
+// The table, from the present position; then the bodies. False, after the box "Se ha producido un
+// error al abrir la plantilla de diseño", where a count, position or length doesn't fit the file.
+bool LoadTemplateSections(QIODevice& file);
+bool LoadTemplateBodies(QIODevice& file);
+
+// First section of the kind in table order, or kNoSection.
+int FindSection(int kind);
+
+// The LAST section of the kind, or kNoSection, in a list of one; after a hit the next table slot is
+// skipped. Odd, and on purpose: existing designs rely on which section is found.
+std::vector<int> FindSections(int kind);
+
+// Sections of the kind in table order, all of them.
+std::vector<int> AllSections(int kind);
+
+struct SectionParts {
+    QByteArray head;
+    QByteArray middle;
+    QByteArray tail;
+};
+
+// The body cut by the lengths START, MIDDLE and END of the section's Params.
+SectionParts SplitSectionBody(int section);
+
+// Indices of all product-picture sections; one element kNoSection when there is none. Filled by
+// IndexImageSections.
+extern std::vector<int> ImageSections;
+void IndexImageSections();
+
+// Copies the files that CUSTOMFILES of the header's Description names (separated by ",") from the
+// store's folder to the output; missing, empty and nested ones, and the catalogue's own files, are
+// passed over.
+void CopyCustomFiles();

@@ -1,0 +1,33 @@
+#include "platform/events.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+
+namespace {
+
+// Since the last serving; not started before the first one.
+QElapsedTimer lastServed;
+
+} // namespace
+
+void DoEvents() {
+    if (!lastServed.isValid() || lastServed.elapsed() >= kServeInterval) {
+        ServeEvents();
+    }
+}
+
+void ServeEvents() {
+    QCoreApplication::processEvents();
+    lastServed.start();
+}
+
+void WaitForEvents(int milliseconds) {
+    QEventLoop loop;
+    QTimer limit;
+    limit.setSingleShot(true);
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(milliseconds);
+    loop.processEvents(QEventLoop::WaitForMoreEvents);
+    lastServed.start();
+}

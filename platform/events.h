@@ -1,0 +1,19 @@
+// Yielding to the event loop. The program has one thread: long work yields at fixed points, and
+// that is how repainting, the cancel button, transfers and sockets get their turn.
+#pragma once
+
+class QWidget;
+
+// Serves pending events, at most once in kServeInterval: called after each row or file it costs
+// next to nothing, and nothing is repainted more often than an eye can see.
+void DoEvents();
+
+// Serves pending events at once, whatever was served before: where the display has to be up to
+// date.
+void ServeEvents();
+
+// For polling loops: sleeps until an event arrives or `milliseconds` have passed, then serves.
+void WaitForEvents(int milliseconds = 100);
+
+// Between two servings by DoEvents, milliseconds.
+inline constexpr int kServeInterval = 40;
