@@ -2,7 +2,8 @@
 // bears the object name "txtFields_3". Forms gather them once, after they are set up.
 #pragma once
 
-#include <QObject>
+#include <QAbstractButton>
+#include <QButtonGroup>
 #include <QString>
 #include <vector>
 
@@ -14,4 +15,12 @@ template <class Control> std::vector<Control*> GatherGroup(const QObject* form, 
         group.push_back(control);
     }
     return group;
+}
+
+// Makes options exclude each other wherever on the form they stand.
+inline void MakeExclusive(QObject* form, const std::vector<QAbstractButton*>& options) {
+    auto* group = new QButtonGroup(form);
+    for (QAbstractButton* option : options) {
+        group->addButton(option);
+    }
 }

@@ -161,6 +161,11 @@ QIcon FlagIcon(const QString& code) {
     return SvgIcon(":/flags/" + code.toUpper() + ".svg", false);
 }
 
+QPixmap DrawPicture(const QString& name, QSize size, qreal ratio) {
+    Q_INIT_RESOURCE(resources);
+    return SvgIcon(":/pictures/" + name + ".svg", false).pixmap(size, ratio);
+}
+
 void DressForm(QWidget* form) {
     Q_INIT_RESOURCE(resources);
     ApplyStyleSheet(form);

@@ -5,6 +5,7 @@
 
 #include <QIcon>
 
+class QPixmap;
 class QWidget;
 
 // Icon `name` of our family, drawn in the palette's text colour of the moment, so that it follows a
@@ -13,6 +14,9 @@ QIcon InkIcon(const QString& name);
 
 // Flag of a language by its two-letter code; null if there is none.
 QIcon FlagIcon(const QString& code);
+
+// Picture `name` of ours in `size` at `ratio` device pixels each; null if there is none.
+QPixmap DrawPicture(const QString& name, QSize size, qreal ratio);
 
 // Dresses a form that was just set up: style sheet, icons, fonts.
 void DressForm(QWidget* form);
