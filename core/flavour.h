@@ -3,8 +3,12 @@
 // shows text.
 #pragma once
 
-#include <QIcon>
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
+
+// Lines that a flavour file must hold; more are ignored.
+inline constexpr int kFlavourLines = 9;
 
 extern QString AppBrand;        // first half of the flavour code, four characters; "LUM_"
 extern QString AppSector;       // second half: "PROD", "INMO" or "AUTO"; "PROD"
@@ -16,9 +20,13 @@ extern QString CategoryCaption; // caption of the category field; "Categoría"
 extern QString CategoryTip;     // its tool tip, placeholders and all
 extern QString LogoCaption;     // caption of the association's logo box; "[N/A]" hides the box
 
-// Gives the nine values their defaults, then takes those of `folder` + "sector.dat" if that file
-// holds at least nine lines. The file's last byte is cut, every other byte is complemented against
-// 255, lines end in CR LF, text is Windows-1252. True if the file exists, whatever it holds.
+// The lines of a flavour file: its last byte is cut, every other byte is complemented against 255,
+// lines are separated by CR LF, text is Windows-1252. Any bytes give some lines.
+QStringList ReadSectorLines(const QByteArray& bytes);
+
+// Gives the nine values their defaults, then takes those of `folder` + "sector.dat", in the order
+// above, if that file holds at least nine lines; unhandled failures are titled AppName from now on.
+// True if the file exists, whatever it holds.
 bool LoadFlavour(const QString& folder);
 
 // The two tests that the program's decisions hang on.

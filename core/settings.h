@@ -49,10 +49,11 @@ extern int LoanYears;
 // Folder of the running program, with trailing "/".
 QString ProgramFolder();
 
-// Reads all values. A value that is no number where one is expected counts as its default.
+// Reads all values but ShowAPIlogo; the flavour must be loaded. A value that is no number where one
+// is expected counts as its default; StoragePath and UIDefPictPath get a missing trailing "/".
 void LoadSettings();
 
-// Writes all values, as one write.
+// Writes all values but ShowAPIlogo, VSurl and VSname, as one write.
 void SaveSettings();
 
 // Adds kind letter + key to DeletedItems and writes that key at once, unless the entry occurs
@@ -60,14 +61,18 @@ void SaveSettings();
 // rely on it.
 void AddDeletedItem(const QString& type, const QString& key);
 
-// Single values that other rooms change during the run; in memory until SaveSettings.
+// Single values that other rooms change during the run; in memory until SaveSettings. Folders may
+// lack their trailing "/".
 void SetUICurrentLang(const QString& lang);
 void SetTemplateLangs(const QString& langs);
 void SetUserLangs(const QString& userLangs, const QString& defaultLang);
 void SetLastWebUpdate(const QString& dateText);
 void ClearDeletedItems();
-void SetStoreFolder(
-    const QString& folder); // DBpath; TemplPath moves with it, keeping its file name
+
+// DBpath; TemplPath follows into that folder, keeping its file name. A template that lies elsewhere
+// is set afterwards.
+void SetStoreFolder(const QString& folder);
+
 void SetTemplate(const QString& path, int number, int maxEmphasised);
 void SetColorSet(int number);
 void SetStorage(int method, const QString& folder);
@@ -75,8 +80,11 @@ void SetFTP(const QString& server, const QString& path, const QString& user, con
 void SetPictureFolder(const QString& folder);
 void SetPassword(const QString& password);
 void SetPortalAccount(const QString& user, const QString& pass);
-void SetMultiUser(bool shared);
 
 // ShowAPIlogo is read and written with the company's data, apart from the rest.
 void LoadShowAPIlogo();
 void SaveShowAPIlogo(bool show);
+
+// The build that was installed, as the update service writes it; empty when unknown. Not ours to
+// write.
+QString ReadInstalledVersion();

@@ -26,11 +26,13 @@ QLocale CurrentLocale();
 // point are grouped by threes where the picture holds a ","; a "0" left of the point demands a
 // digit, "#" alone shows none for a zero integer part (0.5 by "###,###.00" is ",50" with Spanish
 // marks; 0 by "###,###" is empty). Zeros right of the point are fixed decimals. A half is rounded
-// away from zero, on the shortest decimal text of the value.
+// away from zero, on the shortest decimal text of the value. What rounds to zero has no sign;
+// infinite values give an empty text.
 QString FormatNumber(double value, QStringView picture);
 
-// The number that `text` begins with, 0 if it begins with none: blanks are skipped, the decimal
-// mark is always ".", whatever follows the number is ignored ("12abc" is 12).
+// The number that `text` begins with, 0 if it begins with none: blanks are skipped wherever they
+// stand ("1 000" is 1000), the decimal mark is always ".", an exponent counts ("1e3"), whatever
+// follows the number is ignored ("12abc" is 12).
 double LeadingNumber(QStringView text);
 
 // LeadingNumber cut to a 16-bit signed integer (half to even); out of range counts as 0.
@@ -40,7 +42,8 @@ short LeadingInteger(QStringView text);
 bool IsNumeric(QStringView text);
 
 // The number that the whole text is, with the locale's marks: "1.234,5" in Spanish. Group marks are
-// passed over wherever they stand left of the decimal mark. 0 when it is not numeric.
+// passed over wherever they stand left of the decimal mark; an exponent counts, so that NumberText
+// is read back. 0 when it is not numeric.
 double ParseNumber(QStringView text);
 
 // The number as text with the locale's decimal mark and no grouping, up to 15 significant digits.

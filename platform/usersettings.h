@@ -2,7 +2,14 @@
 //
 // One INI file an application: <config>/<application>/settings.ini, where <config> is
 // $XDG_CONFIG_HOME or ~/.config. The file is readable by its user alone, since it holds passwords.
-// A file that can't be read as settings is set aside under another name before the first write.
+// A file that can't be read as settings (not UTF-8, NUL bytes, no section, over 16 MiB) is set
+// aside as "settings.ini.dañado-1" and so on before the first write.
+//
+// The file is UTF-8 and may be written by hand: "[section]", then "key=value" to the end of the
+// line, whatever the value holds; lines that begin with ";" or "#" are comments and stay. A value
+// stands in quotes only if it begins with one, begins or ends with a blank, or holds a line end;
+// inside them \\ \" \n \r \0 are escapes. Section and key are compared without regard to case and
+// hold no "=", "]" or line end.
 #pragma once
 
 #include <QString>
@@ -15,7 +22,8 @@ QString GetSetting(const QString& application, const QString& section, const QSt
 void SaveSetting(const QString& application, const QString& section, const QString& key,
                  const QString& value);
 
-// Several SaveSettings as one write: call Begin, then save, then Commit.
+// Several calls as one reading and at most one writing of the file: Begin, then get or save, then
+// Commit. May be nested; the outermost Commit writes.
 void BeginSettings();
 void CommitSettings();
 

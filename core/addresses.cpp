@@ -1,0 +1,3 @@
+#include "core/addresses.h"
+
+const MakerAddresses Maker{};
