@@ -1,0 +1,72 @@
+#include "generator/choices.h"
+
+#include "generator/fieldvalues.h"
+#include "generator/tagtext.h"
+#include "generator/template.h"
+#include "generator/transforms.h"
+#include "generator/weblangs.h"
+#include "platform/ansi.h"
+#include "store/taggedtext.h"
+
+#include <QSet>
+
+std::vector<ChoiceBlock> ChoiceBlocks;
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray ChoiceListText(const SectionParts& parts, const std::vector<ChoiceItem>& items) {
+    const TagText middle(parts.middle);
+    QByteArray text = parts.head;
+    for (const ChoiceItem& item : items) {
+        TagText row = middle;
+        row.Replace("%%CHOICE%%"_ba, ToAnsi(item.Text));
+        row.Replace("%%CHOICEVALUE%%"_ba, ToAnsi(item.Value));
+        text += row.Text();
+    }
+    return text + parts.tail;
+}
+
+} // namespace
+
+void ResetChoices() {
+    ChoiceBlocks.clear();
+}
+
+void LoadChoiceItems(SiteSnapshot& snapshot, const QString& fieldId, const QString& lang,
+                     std::vector<ChoiceItem>& items) {
+    items.clear();
+    Recordset& defs = snapshot[kSnapFieldDefs];
+    defs.SetFilter(u"FieldDefID = "_s + fieldId);
+    const QString choices = defs.HasRow() ? defs.Text(u"Choices") : QString();
+
+    Recordset& fields = snapshot[kSnapProductFields];
+    const int valueColumn = fields.Column(u"FieldValue");
+    QSet<QString> known;
+    for (fields.SetFilter(u"FieldDefID = "_s + fieldId); fields.HasRow(); fields.MoveNext()) {
+        const QString value = fields.Text(valueColumn);
+        if (!value.isEmpty() && !known.contains(value)) {
+            known.insert(value);
+            items.push_back({value, TaggedText(choices, lang, ChoiceNumber(value))});
+        }
+    }
+}
+
+void BuildChoiceLists(SiteSnapshot& snapshot) {
+    ChoiceBlocks.clear();
+    for (const int section : AllSections(kKindChoiceList)) {
+        const TemplateSectionRecord& record = TemplateSections[section];
+        const QString fieldId = GetParam(record.Params, u"FIELDDEFID"_s);
+        const SectionParts parts = SplitSectionBody(section);
+        for (const QString& lang : WebLangs) {
+            std::vector<ChoiceItem> items;
+            LoadChoiceItems(snapshot, fieldId, lang, items);
+            AddChoiceBlock({ToAnsi(record.Name), ChoiceListText(parts, items), lang});
+        }
+    }
+}
+
+void AddChoiceBlock(ChoiceBlock block) {
+    ChoiceBlocks.push_back(std::move(block));
+}

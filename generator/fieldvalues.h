@@ -1,0 +1,98 @@
+// Values of a product's fields and of the texts per language, as pages show them: the two lists
+// that every page, block and list of products is filled from. Owns ActiveFieldDefs.
+#pragma once
+
+#include "generator/tagtext.h"
+#include "store/snapshot.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+// Marker of the layout preview.
+inline constexpr int kLayoutMarker = 65535;
+
+// Key of the text that names a product's page file.
+inline constexpr char16_t kFileKeyField[] = u"SHORTDESC";
+
+struct FieldItem {
+    QString Key;      // FieldDefId in decimal, or a text's FieldName in upper case
+    QString RawValue; // stored index of an option list; empty for everything else
+    QString Value;    // as shown; empty when there is none
+    QByteArray Tag;   // Key between "%%" and "%%"
+};
+using FieldList = std::vector<FieldItem>;
+
+// A definition of a field, ready for many look-ups.
+struct FieldDef {
+    qint64 Id = 0;
+    QString Type; // "B" yes/no, "O" option list, anything else text
+    QString Choices;
+    QString Caption;
+    QString Key;
+    QByteArray Tag;
+    QHash<QString, QStringList> ChoiceTexts; // by language, filled when first asked for
+};
+
+// What one pass reads values from: the sets of a snapshot, which must outlive it, with columns
+// looked up and definitions read once.
+struct FieldSources {
+    explicit FieldSources(SiteSnapshot& snapshot);
+
+    struct LangFieldDef {
+        QString TableName;
+        qint64 Id = 0;
+        QString Key;
+        QByteArray Tag;
+    };
+
+    Recordset& Fields;
+    Recordset& LangFields;
+    std::vector<FieldDef> Defs; // in the order of the store
+    std::vector<LangFieldDef> LangDefs;
+    QHash<qint64, int> DefById; // place in Defs of the first definition with that number
+    int FieldIdColumn;
+    int FieldValueColumn;
+    int TextIdColumn;
+    int TextValueColumn;
+};
+
+// Keys of the fields that the layout preview shows, once per language and field, in the order in
+// which the pages were expanded; empty outside that preview.
+extern QStringList ActiveFieldDefs;
+
+// At the beginning of a generation.
+void ResetActiveFieldDefs();
+
+// A value as a filter writes it, between quotes.
+QString QuotedValue(QString value);
+
+// The number of a choice, from 0, that a stored value names; -1 when it is beyond 16 bits or below
+// 0. A text that is no number counts by the number it begins with.
+int ChoiceNumber(const QString& stored);
+
+// The product's fields in the order of their numbers, values in `lang`. With kLayoutMarker absent
+// values give up their places to those behind them, what remains empty becomes "&nbsp;", and the
+// fields shown are noted in ActiveFieldDefs.
+void LoadProductFields(FieldSources& sources, const QString& productId, const QString& lang,
+                       int marker, FieldList& list);
+
+// Every text defined for `tableName` ("Products", "Pictures" or "CorpInfo"), empty where the item
+// has none in `lang`.
+void LoadLangFields(FieldSources& sources, const QString& itemId, const QString& tableName,
+                    const QString& lang, FieldList& list);
+
+// The first picture in album order; "nopicture" for a product without pictures.
+QString MainPictureId(const QString& productId, Recordset& pictures);
+
+// What an empty value becomes in the text.
+enum class EmptyShows { Dash, Nothing };
+
+// Replaces the tag of every item. A list whose first key is empty replaces nothing.
+void ReplaceFields(TagText& text, const FieldList& list, EmptyShows empty);
+
+// The same for a product's texts, empty ones as "-"; the file key %FK% follows its text, also in
+// `fileName` if there is one.
+void ReplaceProductTexts(TagText& text, const FieldList& list, QString* fileName = nullptr);

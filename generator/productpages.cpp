@@ -1,0 +1,126 @@
+#include "generator/productpages.h"
+
+#include "core/settings.h"
+#include "generator/outputs.h"
+#include "generator/pictureblock.h"
+#include "generator/siteproduct.h"
+#include "generator/template.h"
+#include "generator/transforms.h"
+#include "generator/weblangs.h"
+#include "generator/zones.h"
+#include "pictures/productpictures.h"
+#include "platform/ansi.h"
+#include "platform/dates.h"
+#include "publish/abort.h"
+#include "publish/steps.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// No product's zone gets a listing page.
+constexpr int kZoneUnmarked = 0;
+
+// What all pages of one pass share.
+struct PagePass {
+    PagePass(SiteSnapshot& sets, int section, int layoutMarker)
+        : snapshot(sets), sources(sets), body(SectionBodies[section]),
+          namePattern(TemplateSections[section].Name), marker(layoutMarker) {}
+
+    SiteSnapshot& snapshot;
+    FieldSources sources;
+    PictureFrames frames;
+    TagText body;
+    QString namePattern;
+    int marker;
+    QString pageName; // of the language shown in the editor
+    FieldList fields; // of the page being made
+    FieldList texts;
+};
+
+// Whether the row has changed since the site was last published. A date that can't be read counts
+// as none: a row's is then not later, and the site's is earlier than any.
+class ChangeTest {
+public:
+    ChangeTest() : lastWebUpdate(ReadDate(LastWebUpdate)) {}
+    bool Changed(const SiteProduct& row) const {
+        if (LastWebUpdate.isEmpty()) {
+            return true;
+        }
+        const std::optional<QDateTime> lastUpdate = ReadDate(row.LastUpdate);
+        return lastUpdate && (!lastWebUpdate || *lastUpdate > *lastWebUpdate);
+    }
+
+private:
+    std::optional<QDateTime> lastWebUpdate;
+};
+
+void ReplaceInName(QString& name, const SiteProduct& row) {
+    name.replace(u"%%PRODUCTID%%"_s, row.ProductId);
+    name.replace(u"%%PRID%%"_s, row.ProductId);
+    if (name.contains(u"%%PRICEAMOUNT%%"_s)) {
+        name.replace(u"%%PRICEAMOUNT%%"_s, PriceWithDecimals(row.PriceAmount));
+    }
+    name.replace(u"%%PRICECURRENCY%%"_s, row.PriceCurrency);
+    name.replace(u"%%SALEZONE%%"_s, row.SaleZone);
+}
+
+void BuildPage(PagePass& pass, const SiteProduct& row, const QString& lang) {
+    TagText body = pass.body;
+    QString name = pass.namePattern;
+    LoadProductFields(pass.sources, row.ProductId, lang, pass.marker, pass.fields);
+    ReplaceProductTags(body, row);
+    body.Replace("%%PRODUCTREF%%"_ba, ToAnsi(row.ProductRef));
+    LoadLangFields(pass.sources, row.ProductId, u"Products"_s, lang, pass.texts);
+    ReplaceProductTexts(body, pass.texts, &name);
+    ReplaceInName(name, row);
+    ReplaceFields(body, pass.fields, EmptyShows::Dash);
+    AddZoneLang(QString(), row.SaleZone, lang, kZoneUnmarked);
+
+    Recordset& pictures = pass.snapshot[kSnapPictures];
+    const QByteArray block =
+        BuildPictureBlock(pass.frames, row.ProductId, lang, pass.sources, pictures);
+    body.Replace(pass.frames.TagName, block);
+    if (body.MayHold("%%MAINPICTUREID%%"_ba)) {
+        body.Replace("%%MAINPICTUREID%%"_ba, ToAnsi(MainPictureId(row.ProductId, pictures)));
+    }
+    AddOutputFile({name, lang, {}, false, TextToBytes(body.Take())});
+    if (lang == UICurrentLang) {
+        pass.pageName = TrimBlanks(name.replace(u"%LID%"_s, lang));
+    }
+}
+
+void BuildPages(PagePass& pass, const SiteProduct& row) {
+    for (const QString& lang : WebLangs) {
+        BuildPage(pass, row, lang);
+    }
+    RenderProductPictures(row.ProductId, row.ProductRef, pass.snapshot[kSnapPictures]);
+}
+
+} // namespace
+
+QString BuildProductPages(const QString& productId, int layoutMarker, bool changedOnly,
+                          SiteSnapshot& snapshot) {
+    ResetZoneLangList();
+    const int section =
+        FindSection(layoutMarker == kLayoutMarker ? kKindLayoutPage : kKindProductPage);
+    if (section == kNoSection) {
+        return {};
+    }
+    PagePass pass(snapshot, section, layoutMarker);
+    Recordset& products = snapshot[kSnapProducts];
+    products.SetFilter(productId.isEmpty() ? QString() : u"ProductID = "_s + productId);
+    const SiteProductReader reader(products);
+    const ChangeTest changes;
+    const bool all = !changedOnly || !productId.isEmpty();
+    const int count = products.RecordCount();
+    for (int place = 1; products.HasRow() && !AbortPublish; ++place, products.MoveNext()) {
+        SetProgress(place, count, 0, 0);
+        const SiteProduct row = reader.Read();
+        if (all || changes.Changed(row)) {
+            BuildPages(pass, row);
+        }
+    }
+    products.SetFilter({});
+    return pass.pageName;
+}

@@ -1,0 +1,76 @@
+#include "generator/sitefiles.h"
+
+#include "core/settings.h"
+#include "generator/outputs.h"
+#include "generator/template.h"
+#include "generator/transforms.h"
+#include "generator/weblangs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kIndexWithoutHome = 1;
+
+void AddBody(int section, const QString& name, const QString& lang) {
+    AddOutputFile({name, lang, {}, false, SectionBodies[section]});
+}
+
+bool IsPerLanguage(const QString& name) {
+    const QString upper = TrimBlanks(name).toUpper();
+    return upper.endsWith(u".HTML") || upper.endsWith(u".JS");
+}
+
+} // namespace
+
+void CopyTemplateFiles() {
+    for (const int section : AllSections(kKindCopiedFile)) {
+        const QString name = TemplateSections[section].Name;
+        for (const QString& lang : IsPerLanguage(name) ? WebLangs : QStringList(QString())) {
+            AddBody(section, name, lang);
+        }
+    }
+}
+
+void CopyIndexPages() {
+    const int section = FindSection(kKindHomePage);
+    if (section == kIndexWithoutHome || section == kNoSection) {
+        return;
+    }
+    for (const QString& lang : WebLangs) {
+        AddBody(section, u"index"_s + lang + u".html"_s, lang);
+        if (lang == DefaultLang) {
+            AddBody(section, u"index.html"_s, lang);
+        }
+    }
+}
+
+void CopyLanguagePages() {
+    const int section = FindSection(kKindLanguagePage);
+    if (section == kNoSection) {
+        return;
+    }
+    for (const QString& lang : WebLangs) {
+        AddBody(section, TemplateSections[section].Name, lang);
+    }
+}
+
+QString BuildFixedPages(const QString& pageName) {
+    QString result;
+    for (const QString& lang : WebLangs) {
+        for (const int kind : {kKindAboutUs, kKindFindUs, kKindFixedPage}) {
+            const int section = FindSection(kind);
+            if (section == kNoSection) {
+                continue;
+            }
+            QString& name = TemplateSections[section].Name;
+            if ((kind == kKindAboutUs && pageName == u"ABOUTUS") ||
+                (kind == kKindFindUs && pageName == u"FINDUS")) {
+                name.replace(u"%LID%"_s, UICurrentLang);
+                result = TrimBlanks(name);
+            }
+            AddBody(section, name, lang);
+        }
+    }
+    return result;
+}
