@@ -25,8 +25,15 @@ void AddOutputFile(OutputFile file);
 // Forgets all files.
 void ClearOutputFiles();
 
+// Whether `name`, which must not be trimmed any more, stays in the folder that it is used in: it
+// holds neither a separator of any system nor a NUL, and is not "..".
+bool IsPlainFileName(const QString& name);
+
+// Whether `path` is the store or lies where its journal, lock, backup or compaction copy does:
+// files that no design may read or overwrite. Opens nothing.
+bool IsCatalogueFile(const QString& path);
+
 // Writes every file with a name into `folder` (made if missing, one level only), yielding before
 // each. The first failure ends the run and returns false; files written so far stay. A name that
-// would leave the folder (a separator or "..") and the names of the catalogue's own files are
-// failures too.
+// is no plain file name, a file that is read-only and the catalogue's own files are failures too.
 bool SaveOutputFiles(const QString& folder);

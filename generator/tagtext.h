@@ -2,37 +2,48 @@
 // ReplaceTag would, at the cost of the tags that it really holds.
 //
 // A page holds some of a hundred possible tags. Searching it for each of them in two spellings is
-// what makes generation slow, so the text knows which places can begin a tag at all, and a tag that
-// can't be there costs nothing. Values may bring tags of their own: the knowledge follows every
-// replacement.
+// what makes generation slow, so the text knows where its percent signs stand and what follows
+// them, and a tag that begins with one and isn't there costs a glance at that list. Values may
+// bring tags of their own: the list follows every replacement. Copies are cheap until they change:
+// make one TagText of a section and copy it for each product.
 #pragma once
 
 #include <QByteArray>
-#include <QStringView>
+#include <QVarLengthArray>
 #include <vector>
 
 class TagText {
 public:
+    // `text` is below 4 GB, and stays so.
     explicit TagText(QByteArray text = {});
 
-    // As ReplaceTag of generator/transforms.
+    // As ReplaceTag of generator/transforms. `value` is not Text() itself.
     void Replace(const QByteArray& tag, const QByteArray& value);
 
     // Every occurrence of `what` by `value`, without the ".DOCWRITE" spelling and without trimming.
     // An empty `what` changes nothing.
     void ReplacePlain(const QByteArray& what, const QByteArray& value);
 
-    void Prepend(const QByteArray& text);
+    void Prepend(const QByteArray& front);
 
-    // Whether `tag` may occur: false is certain.
+    // Whether Replace would find `tag`.
     bool MayHold(const QByteArray& tag) const;
 
     const QByteArray& Text() const { return text; }
+
+    // The text, without keeping it.
     QByteArray Take();
 
 private:
+    using Places = QVarLengthArray<quint32, 64>;
+
+    Places FindAll(const QByteArray& needle) const;
+    void AppendMarkedPlaces(const QByteArray& needle, Places& places) const;
+    void Rewrite(const Places& places, qsizetype length, const QByteArray& value);
+    void ShiftMarks(const Places& places, qsizetype length, const QByteArray& value);
+    void ReadKeys(std::size_t first);
+
     QByteArray text;
-    // How the places are kept is this room's own affair.
-    std::vector<quint32> marks;
-    bool indexed = false;
+    std::vector<quint32> marks; // places of all percent signs, ascending
+    std::vector<quint32> keys;  // four bytes of the text near each, see the source
 };

@@ -14,6 +14,7 @@ class QIODevice;
 inline constexpr int kHeaderSize = 561;  // bytes
 inline constexpr int kSectionSize = 239; // bytes
 inline constexpr int kMaxSections = 101;
+inline constexpr qint64 kMaxBodies = qint64(1) << 30; // bytes of all bodies; they may overlap
 
 // What FindSection returns when there is none. Stored nowhere, but compared in lists of sections.
 inline constexpr int kNoSection = 65535;
@@ -84,7 +85,8 @@ void ResetTemplateState();
 bool LoadTemplateHeader(QIODevice& file);
 
 // The table, from the present position; then the bodies. False, after the box "Se ha producido un
-// error al abrir la plantilla de diseño", where a count, position or length doesn't fit the file.
+// error al abrir la plantilla de diseño", where a count, position or length doesn't fit the file or
+// the bodies together exceed kMaxBodies: nothing of the table, or no body, is loaded then.
 bool LoadTemplateSections(QIODevice& file);
 bool LoadTemplateBodies(QIODevice& file);
 
@@ -104,7 +106,9 @@ struct SectionParts {
     QByteArray tail;
 };
 
-// The body cut by the lengths START, MIDDLE and END of the section's Params.
+// The body cut by the lengths START, MIDDLE and END (16-bit) of the section's Params. A length that
+// is no number or negative is 0, one beyond the body is cut there; kNoSection gives three empty
+// pieces.
 SectionParts SplitSectionBody(int section);
 
 // Indices of all product-picture sections; one element kNoSection when there is none. Filled by
@@ -112,7 +116,7 @@ SectionParts SplitSectionBody(int section);
 extern std::vector<int> ImageSections;
 void IndexImageSections();
 
-// Copies the files that CUSTOMFILES of the header's Description names (separated by ",") from the
-// store's folder to the output; missing, empty and nested ones, and the catalogue's own files, are
-// passed over.
+// Adds the files that CUSTOMFILES of the header's Description names (separated by ",") from the
+// store's folder to OutputFiles; missing and empty ones, those outside that folder, and the
+// catalogue's own files are passed over.
 void CopyCustomFiles();

@@ -6,10 +6,13 @@
 #pragma once
 
 #include <QByteArray>
-#include <QDateTime>
 #include <QString>
 #include <QStringList>
-#include <optional>
+
+// The text without the blanks (20 hexadecimal) at both ends; other white space stays. This is what
+// "trimmed" means for names, parameters and fixed fields of a design.
+QString TrimBlanks(const QString& text);
+QByteArray TrimBlanks(const QByteArray& text);
 
 // The bytes of a finished text: from the first NUL on everything is zero; an empty text is a single
 // zero byte. Existing sites carry files of exactly this form.
@@ -17,7 +20,8 @@ QByteArray TextToBytes(const QByteArray& text);
 
 // Value of `key` in a run of KEY=value; items, trimmed of blanks. The first occurrence of `key`
 // anywhere counts, even inside a longer key or an earlier value; without a closing ";" the value
-// loses the text's last character. Designs rely on both. Empty when absent.
+// loses the text's last character. Designs rely on both. Empty when the key or a "=" behind it is
+// missing.
 QString GetParam(const QString& text, const QString& key);
 
 // Pieces between separators, empty ones kept; at least one piece.
@@ -43,7 +47,7 @@ QByteArray ReplaceTag(const QByteArray& text, const QByteArray& tag, const QByte
 // unless empty. Anything else ("ç", "?", "&") stays.
 QString MakeFileSuffix(const QString& text);
 
-// Text between the first `openMark` at or after `from` and the next `closeMark`; `from` moves
-// behind it. Empty when either is missing.
+// Text between the first `openMark` at or after `from` (from 0) and the next `closeMark`; `from`
+// moves to the second byte of that closing mark. Empty, and `from` stays, when either is missing.
 QByteArray FirstBetween(const QByteArray& text, const QByteArray& openMark,
                         const QByteArray& closeMark, qsizetype& from);
