@@ -1,0 +1,79 @@
+// What makes the pages more comfortable; every page also works without it.
+(function () {
+  'use strict';
+
+  // The menu tells where the visitor is.
+  const here = location.pathname.split('/').pop() || 'index%LID%.html';
+  for (const link of document.querySelectorAll('.menu a')) {
+    const target = link.getAttribute('href');
+    if (target === here || (here === 'index.html' && target === 'index%LID%.html')) {
+      link.setAttribute('aria-current', 'page');
+    }
+  }
+
+  // Telephone numbers can be dialled.
+  for (const place of document.querySelectorAll('[data-tel]')) {
+    const number = place.textContent.replace(/[^+\d]/g, '');
+    if (number.length < 6) continue;
+    const link = document.createElement('a');
+    link.href = 'tel:' + number;
+    link.append(...place.childNodes);
+    place.append(link);
+  }
+
+  // The price as machines read it: no separator but the decimal point.
+  for (const price of document.querySelectorAll('[itemprop=price]')) {
+    const text = price.textContent.replace(/[^\d.,]/g, '');
+    const decimals = /[.,](\d{2})$/.exec(text);
+    const whole = (decimals ? text.slice(0, -3) : text).replace(/\D/g, '');
+    price.setAttribute('content', (whole || '0') + (decimals ? '.' + decimals[1] : ''));
+  }
+
+  // The codes in the links of the tree of categories are short, but two names can share one: links
+  // get the names in their place.
+  let parent = '';
+  for (const item of document.querySelectorAll('.categories li')) {
+    const link = item.firstElementChild;
+    const name = link.textContent;
+    if (!item.classList.contains('sub')) parent = name;
+    link.dataset.path = item.classList.contains('sub') ? parent + '/' + name : name;
+    link.hash = 'k=' + encodeURIComponent(link.dataset.path);
+  }
+
+  // A product's category leads to its part of the catalogue.
+  for (const place of document.querySelectorAll('[data-category]')) {
+    const path = place.textContent.trim();
+    if (path === '') continue;
+    const link = document.createElement('a');
+    link.href = place.dataset.category + '#k=' + encodeURIComponent(path);
+    link.textContent = path.split('/').join(' \u203a ');
+    place.replaceChildren(link);
+  }
+
+  const print = document.querySelector('[data-print]');
+  if (print) {
+    print.hidden = false;
+    print.addEventListener('click', () => window.print());
+  }
+
+  // A small picture takes the place of the large one, which becomes a small one itself.
+  const main = document.querySelector('.gallery figure a');
+  const thumbs = document.querySelector('.gallery .thumbs');
+  if (main && thumbs) {
+    thumbs.addEventListener('click', (event) => {
+      const small = event.target.closest('a');
+      if (!small || event.ctrlKey || event.metaKey || event.shiftKey) return;
+      event.preventDefault();
+      const shown = main.firstElementChild;
+      const chosen = small.querySelector('img');
+      const from = shown.getAttribute('src').slice(1);
+      const to = chosen.getAttribute('src').slice(1);
+      shown.srcset = `s${to} 400w, m${to} 800w, g${to} 1600w`;
+      shown.src = 'm' + to;
+      chosen.src = 's' + from;
+      [shown.alt, chosen.alt] = [chosen.alt, shown.alt];
+      [main.href, small.href] = [small.href, main.href];
+      main.parentElement.style.backgroundImage = `url(b${to})`;
+    });
+  }
+})();
