@@ -1,7 +1,9 @@
 #include "forms/mainform.h"
 
+#include "forms/assistpanel.h"
 #include "forms/groups.h"
 #include "forms/look.h"
+#include "forms/toolbuttons.h"
 
 #include <QCloseEvent>
 #include <QHeaderView>
@@ -110,9 +112,6 @@ void MainForm::showEvent(QShowEvent* event) {
 bool MainForm::eventFilter(QObject* watched, QEvent* event) {
     if (watched == fraZone && event->type() == QEvent::Show) {
         PlaceSuggestions();
-    } else if (watched == shpLangAssist && event->type() == QEvent::Resize) {
-        lblToTranslate->resize(shpLangAssist->width(),
-                               lblToTranslate->heightForWidth(shpLangAssist->width()));
     } else if (watched == fraDetail && event->type() == QEvent::Resize && fraZone->isVisible()) {
         PlaceSuggestions();
     }
@@ -155,23 +154,10 @@ void MainForm::SetUpToolBar() {
         choices->addAction(ButtonMenu(key, "Print"));
         choices->addAction(ButtonMenu(key, "Mail"));
         Button(key)->setMenu(choices);
+        auto* button = qobject_cast<QToolButton*>(tlbProducts->widgetForAction(Button(key)));
+        button->setPopupMode(QToolButton::MenuButtonPopup);
     }
-    // Reached by Tab, but a click on a button leaves the focus in the box being edited.
-    QWidget* previous = imgPerlantaLogo;
-    for (QAction* action : tlbProducts->actions()) {
-        auto* button = qobject_cast<QToolButton*>(tlbProducts->widgetForAction(action));
-        if (button == nullptr) {
-            continue;
-        }
-        button->setFocusPolicy(Qt::TabFocus);
-        button->setAccessibleName(action->text());
-        if (action->menu() != nullptr) {
-            button->setPopupMode(QToolButton::MenuButtonPopup);
-        }
-        setTabOrder(previous, button);
-        previous = button;
-    }
-    setTabOrder(previous, lstProductList);
+    MakeButtonsReachable(tlbProducts, imgPerlantaLogo, lstProductList);
 }
 
 void MainForm::SetUpList() {
@@ -190,7 +176,8 @@ void MainForm::SetUpEditor() {
         fields.push_back(field->parentWidget()->parentWidget());
     }
     fraFields->SetSlots({lblFields.begin(), lblFields.end()}, fields);
-    shpLangAssist->installEventFilter(this);
+    FollowTips(optLang);
+    KeepTextWidth(shpLangAssist, lblToTranslate);
     fraDetail->installEventFilter(this);
 }
 

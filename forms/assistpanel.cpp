@@ -1,0 +1,52 @@
+#include "forms/assistpanel.h"
+
+#include <QEvent>
+
+namespace {
+
+class TipFollower : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ToolTipChange) {
+            auto* button = qobject_cast<QWidget*>(watched);
+            button->setAccessibleName(button->toolTip());
+        }
+        return false;
+    }
+};
+
+class TextSizer : public QObject {
+public:
+    TextSizer(QWidget* textPanel, QLabel* shownText)
+        : QObject(textPanel), panel(textPanel), text(shownText) {
+        panel->installEventFilter(this);
+        text->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool resized = watched == panel && event->type() == QEvent::Resize;
+        const bool rewritten = watched == text && event->type() == QEvent::LayoutRequest;
+        if (resized || rewritten || event->type() == QEvent::Show) {
+            text->resize(panel->width(), text->heightForWidth(panel->width()));
+        }
+        return false;
+    }
+
+private:
+    QWidget* panel;
+    QLabel* text;
+};
+
+} // namespace
+
+void FollowTips(const std::vector<QToolButton*>& buttons) {
+    for (QToolButton* button : buttons) {
+        button->installEventFilter(new TipFollower(button));
+    }
+}
+
+void KeepTextWidth(QWidget* panel, QLabel* text) {
+    new TextSizer(panel, text);
+}

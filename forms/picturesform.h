@@ -1,0 +1,32 @@
+// The picture album of the open product. Owns frmPictures.
+#pragma once
+
+#include "ui_picturesform.h"
+
+#include "forms/dialog.h"
+
+#include <vector>
+
+class PicturesForm : public Dialog, public Ui::PicturesForm {
+    Q_OBJECT
+
+public:
+    explicit PicturesForm(QWidget* parent);
+    ~PicturesForm() override;
+
+    // Button of tlbPicture by its key: Add, Del, Change, MoveUp or MoveDn; null for any other.
+    QAction* Button(const QString& key) const;
+
+    // Groups, by index.
+    std::vector<QFrame*> fraPicPreview;     // eight slots: the whole,
+    std::vector<QFrame*> shpPicPreview;     // its frame, with the look flag "selected",
+    std::vector<PictureBox*> imgPicPreview; // the thumbnail,
+    std::vector<QLabel*> lblPictureNum;     // the number,
+    std::vector<ClickArea*> lblClickArea;   // and what is clicked and dragged
+    std::vector<QWidget*> txtMLFields;      // 0 line, 1 text
+    std::vector<QToolButton*> optLang;
+    std::vector<QToolButton*> lblLangScroll;
+};
+
+// The open dialog, or null: set by its constructor, cleared by its destructor.
+extern PicturesForm* frmPictures;
