@@ -10,42 +10,13 @@
 // Columns are named without regard to case. Every failure is a StoreError.
 #pragma once
 
-#include <QHash>
+#include "platform/cell.h"
+#include "platform/storeerror.h"
+
 #include <QString>
 #include <memory>
-#include <stdexcept>
-#include <variant>
-#include <vector>
 
 class StoreConnection;
-class RowLock;
-
-// Numbers of store errors that callers tell apart.
-inline constexpr int kErrNoCurrentRow = 3021; // no row to read or write, or the row is gone
-inline constexpr int kErrRowLocked = 3218;    // another user holds the row
-inline constexpr int kErrNotOpen = 3704;      // the cursor has no result
-inline constexpr int kErrNoColumn = 3265;     // no such column
-inline constexpr int kErrStatement = 3075;    // the statement can't be run
-inline constexpr int kErrNotUpdatable = 3027; // rows of this statement can't be written
-inline constexpr int kErrBusy = 3009;         // the store stays locked beyond the time-out
-inline constexpr int kErrDisk = 3026; // disk full, read-only store, or another write failure
-inline constexpr int kErrOpen = 3024; // the store can't be opened or is no store
-
-class StoreError : public std::runtime_error {
-public:
-    StoreError(int errorNumber, const QString& text)
-        : std::runtime_error(text.toStdString()), number(errorNumber) {}
-    int number;
-    QString Text() const { return QString::fromUtf8(what()); }
-};
-
-// One field: Null, a whole number, a floating-point number or a text.
-using Cell = std::variant<std::monostate, qint64, double, QString>;
-
-bool IsNull(const Cell& cell);
-QString CellText(const Cell& cell);   // Null is empty; numbers in plain decimal with "."
-double CellNumber(const Cell& cell);  // Null is 0; a text by its leading number
-qint64 CellInteger(const Cell& cell); // the same, cut to a whole number
 
 class Recordset {
 public:
@@ -62,16 +33,18 @@ public:
     void SetSource(const QString& statement);
     const QString& Source() const;
 
-    // Runs the statement; the first row becomes current. Pending edits are dropped.
+    // Runs the statement; the first row becomes current. The filter, pending edits and row locks
+    // are dropped. A failure leaves everything as it was.
     void Open();
     void Requery() { Open(); }
     void Close();
     bool IsOpen() const;
 
-    // A cursor of its own on the same connection with a copy of this one's result, nothing pending.
+    // A cursor of its own on the same connection with a copy of this one's result as it was read,
+    // without filter and locks, nothing pending, not pessimistic; its first row is current.
     Recordset Clone() const;
 
-    // Rows that the filter lets through (all of them without one).
+    // Rows that the filter lets through (all of them without one); 0 when it is not open.
     int RecordCount() const;
 
     // 1 to RecordCount; 0 when no row is current. Setting it beyond the rows leaves no row current.
@@ -84,18 +57,24 @@ public:
     // Conjunctions of equalities: "ProductId = 10001", "TableName = 'Products' AND ItemId =
     // '10001'". A number may be quoted; a quote inside a quoted value is doubled; texts are
     // compared without regard to case. Empty takes the filter away. The first row that passes
-    // becomes current. Answered from a hash index that lives until the rows change. Anything else
-    // is kErrStatement.
+    // becomes current. Answered from a hash index that lives until the rows change; the rows let
+    // through stay the same until the next SetFilter, whatever is written to them, and an added
+    // row joins them. Anything else is kErrStatement.
     void SetFilter(const QString& filter);
 
     // Appends an empty row (all Null) and makes it current.
     void AddNew();
 
-    // Takes out the current row; afterwards no row is current until the next move.
+    // Takes out the current row; afterwards no row is current until the next move, and MoveNext
+    // goes to the row that followed. A pessimistic cursor takes the row's lock as Set does.
     void Delete();
 
-    // Writes whatever is pending in one transaction; without anything pending it does nothing. A
-    // failure writes nothing and keeps everything pending.
+    // Writes whatever is pending in one transaction; without anything pending it does nothing. Of
+    // an edited row only the columns that differ are written, of an added row those that are not
+    // Null: it then holds the store's defaults for the others. On a pessimistic cursor an added row
+    // is locked from here on. A failure writes nothing and keeps everything pending:
+    // kErrNoCurrentRow when another user has deleted an edited row, kErrBusy, kErrDisk,
+    // kErrDuplicate, kErrRowLocked.
     void Update();
     bool HasPending() const;
 
@@ -113,8 +92,10 @@ public:
     qint64 Integer(QStringView name) const { return CellInteger(Value(name)); }
     QString Text(int column) const { return CellText(Value(column)); }
 
-    // Pending until Update. On a pessimistic cursor the first write to a row takes its lock or
-    // fails with kErrRowLocked; kErrNoCurrentRow when another user has deleted the row meanwhile.
+    // Pending until Update; the value is kept as the column keeps it (a text that is a number
+    // becomes one in a number column). On a pessimistic cursor the first write to a row takes its
+    // lock or fails with kErrRowLocked, and the row is read anew; kErrNoCurrentRow when another
+    // user has deleted it meanwhile. kErrNotUpdatable for a column that is none of a single table.
     // Writing the value that is there already is still a write (it takes the lock) but gives
     // nothing to commit.
     void Set(QStringView name, const Cell& value);
