@@ -1,3 +1,10 @@
-int main() {
-    return 0;
+#include "core/startup.h"
+#include "platform/dialogs.h"
+#include "platform/notify.h"
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    LoadToolkitTexts();
+    StartProgram();
+    return Application::exec();
 }

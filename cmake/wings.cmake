@@ -33,6 +33,8 @@ function(add_wing name)
     add_library(${name} STATIC ${WING_SOURCES})
     use_house(${name})
     target_link_libraries(${name} PUBLIC ${WING_USES})
+    # Wings of one floor use each other, so the linker has to pass over them more than twice.
+    set_property(TARGET ${name} PROPERTY LINK_INTERFACE_MULTIPLICITY 4)
 endfunction()
 
 # add_house_test(NAME SOURCES...): one test program of a wing, every test of it known to ctest.
@@ -46,4 +48,4 @@ endfunction()
 # The whole program but its main.cpp, for the program, the tools and the tests.
 add_library(program INTERFACE)
 target_link_libraries(program INTERFACE
-    editor config publish generator pictures store core forms platform)
+    editor details config publish generator pictures store core forms platform)

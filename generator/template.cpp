@@ -170,6 +170,15 @@ bool LoadTemplateBodies(QIODevice& file) {
     return true;
 }
 
+bool LoadTemplateFile(const QString& path) {
+    ResetTemplateState();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return RefuseDamagedTemplate();
+    }
+    return LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file);
+}
+
 int FindSection(int kind) {
     for (int i = 0; i < kMaxSections; ++i) {
         if (TemplateSections[i].Kind == kind) {

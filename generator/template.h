@@ -90,6 +90,10 @@ bool LoadTemplateHeader(QIODevice& file);
 bool LoadTemplateSections(QIODevice& file);
 bool LoadTemplateBodies(QIODevice& file);
 
+// The whole load in its order: reset, header, table, bodies. False after the box of whichever
+// refused the file, or the damage box for a file that can't be opened.
+bool LoadTemplateFile(const QString& path);
+
 // First section of the kind in table order, or kNoSection.
 int FindSection(int kind);
 

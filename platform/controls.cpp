@@ -1,5 +1,8 @@
 #include "platform/controls.h"
 
+#include "platform/events.h"
+
+#include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -8,6 +11,12 @@
 namespace {
 
 constexpr char kTagProperty[] = "Tag";
+
+bool IsDisturbing(const QString& name) {
+    static const QStringList kPrefixes{"cmd", "txt", "mnu", "opt", "chk"};
+    static const QStringList kNames{"fraTabs", "fraProductList", "fraProductInfo", "cboIsNew"};
+    return kPrefixes.contains(name.left(3)) || kNames.contains(name);
+}
 
 } // namespace
 
@@ -43,4 +52,24 @@ QString Tag(const QObject* control) {
 
 void SetTag(QObject* control, const QString& tag) {
     control->setProperty(kTagProperty, tag);
+}
+
+QString GroupName(const QObject* control) {
+    return control->objectName().section(u'_', 0, 0);
+}
+
+void EnableWhileBusy(const QString& excluded, bool enabled, QWidget* form) {
+    const QObjectList controls = form->findChildren<QObject*>();
+    for (QObject* control : controls) {
+        const QString name = GroupName(control);
+        if (name == excluded || !IsDisturbing(name)) {
+            continue;
+        }
+        if (auto* widget = qobject_cast<QWidget*>(control)) {
+            widget->setEnabled(enabled);
+        } else if (auto* action = qobject_cast<QAction*>(control)) {
+            action->setEnabled(enabled);
+        }
+        DoEvents();
+    }
 }

@@ -1,0 +1,34 @@
+#include "details/languages.h"
+
+#include "core/settings.h"
+#include "platform/controls.h"
+#include "store/languages.h"
+
+#include <QIcon>
+#include <QToolButton>
+
+bool LangButtonsReady = true;
+
+namespace {
+
+void DressButton(QToolButton* button, const QString& code) {
+    const QString caption = LanguageCaption(code);
+    SetTag(button, code);
+    button->setIcon(code.isEmpty() ? QIcon() : QIcon(QStringLiteral(":/flags/%1.svg").arg(code)));
+    button->setToolTip(caption);
+    button->setAccessibleName(caption.isEmpty() ? code : caption);
+    button->setVisible(!code.isEmpty());
+    button->setChecked(!code.isEmpty() && code == UICurrentLang);
+}
+
+} // namespace
+
+void ArrangeLangButtons(QWidget* fraLang, const std::vector<QToolButton*>& optLang) {
+    LangButtonsReady = false;
+    const QStringList codes = UserLangs.split(kLanguageSeparator);
+    for (qsizetype i = 0; i < static_cast<qsizetype>(optLang.size()); ++i) {
+        DressButton(optLang[i], i < codes.size() ? codes[i] : QString());
+    }
+    fraLang->setVisible(UserLangs.contains(kLanguageSeparator));
+    LangButtonsReady = true;
+}

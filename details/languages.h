@@ -1,0 +1,17 @@
+// What the three multilingual screens share: the row of language buttons. Owns LangButtonsReady.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+class QToolButton;
+class QWidget;
+
+inline constexpr char kLanguageSeparator[] = "|"; // of language lists in settings
+
+// False while buttons are being arranged: setting a button's value fires its click. True at start.
+extern bool LangButtonsReady;
+
+// Lays out a screen's buttons by UserLangs: tag, flag and tip by code, the one of UICurrentLang
+// down, the rest hidden. With one language the whole frame is hidden.
+void ArrangeLangButtons(QWidget* fraLang, const std::vector<QToolButton*>& optLang);

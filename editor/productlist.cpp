@@ -1,0 +1,213 @@
+#include "editor/productlist.h"
+
+#include "core/settings.h"
+#include "core/vocabulary.h"
+#include "editor/buttons.h"
+#include "editor/productform.h"
+#include "forms/mainform.h"
+#include "platform/controls.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/numbers.h"
+#include "store/formstate.h"
+#include "store/products.h"
+#include "store/store.h"
+
+std::vector<int> ProductIds;
+QString CurrentListSQL;
+QString SelectedRef;
+int SortColumn = 0;
+bool SortDescending = false;
+int FeaturedCount = 0;
+bool NewProductPending = false;
+
+namespace {
+
+// %1 is the default language: the list shows descriptions in it, whatever the editor shows.
+constexpr char kListStatement[] =
+    "SELECT ProductId, ProductRef, PriceAmount, IsNew, SaleZone, FieldValue AS MLShortDesc FROM "
+    "Products p LEFT JOIN MultiLangFields ml ON (cstr(p.ProductId)=ml.ItemId AND "
+    "ml.TableName='Products' AND ml.LangCode='%1' AND ml.FieldDefId=0)";
+
+constexpr char kEndOfBase[] = "AND ml.FieldDefId=0)"; // a filter stands behind it
+constexpr char kOrderBy[] = "ORDER BY";
+constexpr std::array<const char*, 3> kSortNames = {"ProductRef", "FieldValue", "PriceAmount"};
+
+constexpr char16_t kListPrice[] = u"#,##0";
+
+constexpr int kMessageGone = 5;
+constexpr int kMessageGoneTitle = 6;
+
+ProductListModel& List() {
+    return *frmMain->productList;
+}
+
+ProductRow RowOf(const Recordset& product) {
+    const auto status = product.Integer(u"IsNew");
+    return {{product.Text(u"ProductRef"), product.Text(u"MLShortDesc"),
+             FormatNumber(product.Number(u"PriceAmount"), kListPrice)},
+            status == kStatusArchived,
+            status == kStatusFeatured};
+}
+
+// Reads all rows of cursor 2; `position` becomes the row of `productId`.
+void ReadRows(int& position, const QString& productId) {
+    Recordset& products = adcData[kCursorList];
+    std::vector<ProductRow> rows;
+    std::vector<int> ids;
+    rows.reserve(products.RecordCount());
+    ids.reserve(products.RecordCount());
+    for (products.MoveFirst(); products.HasRow(); products.MoveNext()) {
+        const auto id = static_cast<int>(products.Integer(u"ProductId"));
+        ids.push_back(id);
+        if (QString::number(id) == productId) {
+            position = products.AbsolutePosition();
+        }
+        FeaturedCount += products.Integer(u"IsNew") == kStatusFeatured ? 1 : 0;
+        rows.push_back(RowOf(products));
+        DoEvents();
+    }
+    ProductIds = std::move(ids);
+    List().SetRows(std::move(rows));
+}
+
+} // namespace
+
+QString BuildListQuery() {
+    if (CurrentListSQL.isEmpty()) {
+        RunQuery(kCursorList, QString(kListStatement).replace("%1", DefaultLang));
+    } else {
+        SortProductList(kListSelector, SortColumn, !SortDescending);
+    }
+    CurrentListSQL = adcData[kCursorList].Source();
+    return SelectedRef;
+}
+
+void SortProductList(int selector, int column, bool ascending) {
+    if (selector != kListSelector) {
+        return;
+    }
+    QString statement = CurrentListSQL;
+    const auto order = statement.indexOf(QString(" ") + kOrderBy);
+    if (order >= 0) {
+        statement.truncate(order);
+    }
+    statement += QStringLiteral(" %1 %2 %3")
+                     .arg(kOrderBy, kSortNames.at(column), ascending ? "ASC" : "DESC");
+    RunQuery(kCursorList, statement);
+}
+
+void FilterProductList(const QString& filter) {
+    const auto baseEnd = CurrentListSQL.lastIndexOf(kEndOfBase) + qsizetype(qstrlen(kEndOfBase));
+    const auto order = CurrentListSQL.lastIndexOf(QString(" ") + kOrderBy);
+    QString statement = CurrentListSQL.left(baseEnd);
+    if (!filter.isEmpty()) {
+        statement += " WHERE " + filter;
+    }
+    if (order >= baseEnd) {
+        statement += CurrentListSQL.mid(order);
+    }
+    RunQuery(kCursorList, statement.trimmed());
+    CurrentListSQL = adcData[kCursorList].Source();
+}
+
+void ReleaseCurrent() {
+    if (ListRowCount() > 0) {
+        SelectedRef = List().Text(SelectedRow(), 0);
+        SaveCurrentProduct();
+    }
+    const QHeaderView* header = frmMain->lstProductList->header();
+    SortColumn = std::max(header->sortIndicatorSection(), 0);
+    SortDescending = header->sortIndicatorOrder() == Qt::DescendingOrder;
+}
+
+void RefreshProductList(int& position, QString productId, bool keepEditor) {
+    bool clear = true;
+    if (CurrentListSQL.isEmpty()) {
+        productId = BuildListQuery();
+    } else {
+        ReleaseCurrent();
+        RunQuery(kCursorList, CurrentListSQL);
+        clear = productId.isEmpty() || productId != frmMain->txtProductId->text();
+    }
+    FeaturedCount = 0;
+    if (!keepEditor && clear) {
+        ClearProductForm();
+    }
+    ReadRows(position, productId);
+    CurrentListSQL = adcData[kCursorList].Source();
+    ParkCursor(kCursorList); // the list on screen keeps no rows of the store
+    SelectRow(position - 1);
+    if (!keepEditor && clear) {
+        LoadSelectedProduct();
+    }
+    RefreshButtons();
+}
+
+void RefreshProductList() {
+    int position = 1;
+    RefreshProductList(position, {}, false);
+}
+
+void RemoveFromList() {
+    const int row = SelectedRow();
+    NewProductPending = false;
+    if (row < 0) {
+        return;
+    }
+    List().RemoveRow(row);
+    ProductIds.erase(ProductIds.begin() + row);
+    if (ListRowCount() > 0) {
+        SelectRow(std::min(row, ListRowCount() - 1));
+        LoadSelectedProduct();
+    } else {
+        ClearProductForm();
+    }
+    RefreshButtons();
+}
+
+void AppendNewProductRow() {
+    ProductIds.push_back(frmMain->txtProductId->text().toInt());
+    List().AppendRow(
+        {{frmMain->txtProductRef->text(), {}, FormatNumber(0, kListPrice)}, false, false});
+    SelectRow(ListRowCount() - 1);
+    NewProductPending = true;
+}
+
+void UpdateListRow(int column, const QString& text) {
+    const int row = SelectedRow();
+    if (row >= 0 && List().Text(row, column) != text) {
+        List().SetCell(row, column, text);
+    }
+}
+
+void MarkListRow(int row, int status) {
+    List().SetMark(row, status == kStatusArchived, status == kStatusFeatured);
+    const bool wasFeatured = Tag(frmMain->cboIsNew) == QString::number(kStatusFeatured);
+    const bool isFeatured = status == kStatusFeatured;
+    FeaturedCount += int(isFeatured) - int(wasFeatured);
+}
+
+void LoadSelectedProduct() {
+    const int row = SelectedRow();
+    if (row < 0) {
+        return;
+    }
+    if (LoadProduct(QString::number(ProductIds[row])) == ProductState::Gone) {
+        MsgBox(Messages[kMessageGone], BoxIcon::Information, Messages[kMessageGoneTitle]);
+        RemoveFromList();
+    }
+}
+
+int ListRowCount() {
+    return static_cast<int>(ProductIds.size());
+}
+
+int SelectedRow() {
+    return frmMain->SelectedRow();
+}
+
+void SelectRow(int row) {
+    const FillingGuard filling; // a selection made by code is no click
+    frmMain->SelectRow(row);
+}

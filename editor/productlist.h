@@ -1,0 +1,59 @@
+// The product list: filling, sorting, filtering and refreshing it, and keeping it in step with the
+// editor. The selected row is the product in the editor at all times. Owns the list's state.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+extern std::vector<int> ProductIds; // ProductId of each row, in row order
+extern QString
+    CurrentListSQL; // the list's statement with filter and order; empty before the first fill
+extern QString SelectedRef;    // reference of the row selected before a refresh
+extern int SortColumn;         // 0 reference, 1 description, 2 price; 0 at start
+extern bool SortDescending;    // false at start
+extern int FeaturedCount;      // listed products "En Portada"
+extern bool NewProductPending; // a new product has not found its place in the list yet
+
+inline constexpr int kListSelector = 2; // the list's number for SortProductList
+
+// Brings cursor 2 up to date: the base statement at first, later the remembered order. Returns
+// SelectedRef.
+QString BuildListQuery();
+
+// Orders cursor 2 by a column; nothing unless `selector` is kListSelector.
+void SortProductList(int selector, int column, bool ascending);
+
+// Gives cursor 2 a condition, or none; the order stays.
+void FilterProductList(const QString& filter);
+
+// Saves the open product and notes selection and sort, before the list is filled anew or the store
+// is closed.
+void ReleaseCurrent();
+
+// Fills the list. `position` is the row (from 1) to select, and comes back as the row of
+// `productId` where that is listed; with `keepEditor` the editor stays as it is.
+void RefreshProductList(int& position, QString productId, bool keepEditor);
+
+// The same without a wish: first row, editor filled.
+void RefreshProductList();
+
+// Takes out the selected row and moves on to the next product.
+void RemoveFromList();
+
+// Appends the row of a product just created and selects it.
+void AppendNewProductRow();
+
+// Writes one cell of the selected row if it differs.
+void UpdateListRow(int column, const QString& text);
+
+// Colours a row (from 0) by status and keeps FeaturedCount, by the status that cboIsNew's tag
+// remembers.
+void MarkListRow(int row, int status);
+
+// Fills the editor from the selected row; a product that another user has deleted is told and taken
+// out of the list.
+void LoadSelectedProduct();
+
+int ListRowCount();
+int SelectedRow(); // from 0; -1 when the list is empty
+void SelectRow(int row);

@@ -1,0 +1,96 @@
+#include "publish/workflow.h"
+
+#include "core/flavour.h"
+#include "core/settings.h"
+#include "forms/mainform.h"
+#include "generator/generate.h"
+#include "platform/controls.h"
+#include "platform/dates.h"
+#include "platform/dialogs.h"
+#include "publish/abort.h"
+#include "publish/steps.h"
+#include "store/snapshot.h"
+
+PublishOutcome LastOutcome = PublishOutcome::None;
+
+namespace {
+
+constexpr int kButtonUpdate = 0;
+constexpr int kButtonCancel = 1;
+constexpr int kOptionChanged = 0;
+constexpr int kOptionAll = 1;
+
+// A run is under way: after a cancel the button is back before the run has noticed, and must not
+// start another one inside it.
+bool publishing = false;
+
+void ShowBusy(bool busy) {
+    EnableWhileBusy("cmdUpdateWeb", !busy, frmMain);
+    frmMain->cmdUpdateWeb[kButtonUpdate]->setVisible(!busy);
+    frmMain->cmdUpdateWeb[kButtonCancel]->setVisible(busy);
+    if (!busy) {
+        frmMain->cmdUpdateWeb[kButtonUpdate]->setFocus();
+    }
+}
+
+void RecordSuccess() {
+    SetLastWebUpdate(DateText(Now()));
+    ClearDeletedItems();
+    SaveSettings();
+}
+
+// True if the site reached its destination. What no stage handles ends the run as a failed step.
+bool RunGeneration() {
+    SiteSnapshot snapshot;
+    bool delivered = false;
+    try {
+        TakeSiteSnapshot(snapshot);
+        delivered = GenerateSite(TemplPath, snapshot);
+    } catch (const std::exception& failure) {
+        StepFailed();
+        MsgBox(QString::fromUtf8(failure.what()), BoxIcon::Warning, AppName);
+    }
+    DropSiteSnapshot(snapshot);
+    return delivered;
+}
+
+void Publish() {
+    publishing = true;
+    LastOutcome = RunGeneration() ? PublishOutcome::Delivered : PublishOutcome::NotDelivered;
+    publishing = false;
+    if (LastOutcome == PublishOutcome::Delivered) {
+        RecordSuccess();
+    }
+}
+
+} // namespace
+
+void ConnectPublish() {
+    for (int index : {kButtonUpdate, kButtonCancel}) {
+        QObject::connect(frmMain->cmdUpdateWeb[index], &QPushButton::clicked, frmMain,
+                         [index] { cmdUpdateWeb_Click(index); });
+    }
+}
+
+void cmdUpdateWeb_Click(int index) {
+    // Disabling disturbs the choice, so it is noted and set again.
+    const bool wholeSite = frmMain->optAllOrChanged[kOptionAll]->isChecked();
+    QRadioButton* chosen = frmMain->optAllOrChanged[wholeSite ? kOptionAll : kOptionChanged];
+    if (index == kButtonUpdate && publishing) {
+        return;
+    }
+    if (index == kButtonUpdate) {
+        ShowBusy(true);
+        chosen->setChecked(true);
+        Publish();
+    } else {
+        CancelPublish();
+    }
+    ShowBusy(false);
+    chosen->setChecked(true);
+}
+
+void CancelPublish() {
+    SetAbortPublish(true);
+    StepFailed();
+}

@@ -1,0 +1,16 @@
+// One press of the button takes the catalogue to the web: snapshot, generation, delivery, and what
+// is recorded at the end.
+#pragma once
+
+// How the last run of this process ended.
+enum class PublishOutcome { None, Delivered, NotDelivered };
+extern PublishOutcome LastOutcome; // written here; None until a run has ended
+
+// Connects the buttons of the page "Actualizar Web".
+void ConnectPublish();
+
+// Either button: 0 starts a run and returns when it is over, 1 cancels it.
+void cmdUpdateWeb_Click(int index);
+
+// Asks the run to stop at its next test; the current step shows as failed at once.
+void CancelPublish();

@@ -1,0 +1,90 @@
+#include "store/store.h"
+
+#include "core/flavour.h"
+#include "core/settings.h"
+#include "forms/mainform.h"
+#include "forms/picturesform.h"
+#include "platform/dates.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/process.h"
+#include "platform/storeengine.h"
+
+std::array<Recordset, kCursorCount + 1> adcData;
+bool StoreOpen = false;
+
+namespace {
+
+// Reading it is the real test that the file and its tables are there.
+constexpr char kFieldDefsStatement[] = "SELECT * FROM ProductFieldDef ORDER BY FieldDefId";
+
+void OpenCursors() {
+    const auto connection = StoreConnection::Open(DBpath + DBname);
+    for (int index = 1; index <= kCursorCount; ++index) {
+        adcData[index] = Recordset();
+        adcData[index].SetConnection(connection);
+        adcData[index].SetPessimistic(index == kCursorProduct);
+        DoEvents();
+    }
+    RunQuery(kCursorScratch, kFieldDefsStatement);
+}
+
+BoxAnswer AskAboutFailure() {
+    const QString text =
+        QStringLiteral(
+            "No se ha podido abrir la Base de Datos.\n"
+            "Asegúrese que el fichero %1 existe y que tiene acceso al mismo.\n\n"
+            "Pulse Sí para comprobar en Configuración dónde se encuentra la Base de Datos.\n"
+            "Pulse No para salir del programa.")
+            .arg(DBpath + DBname);
+    return MsgBox(text, BoxIcon::Critical, BoxButtons::YesNo, BoxAnswer::Yes, AppName);
+}
+
+} // namespace
+
+int OpenStore() {
+    try {
+        OpenCursors();
+        StoreOpen = true;
+        return 0;
+    } catch (const StoreError&) {
+        if (AskAboutFailure() != BoxAnswer::Yes) {
+            EndProcess(EXIT_FAILURE);
+        }
+    }
+    CloseStore();
+    return 1;
+}
+
+void CloseStore() {
+    for (Recordset& cursor : adcData) {
+        cursor = Recordset();
+    }
+    StoreOpen = false;
+}
+
+void RunQuery(int index, const QString& statement) {
+    adcData[index].SetSource(statement);
+    adcData[index].Open();
+    WaitForCursor(adcData[index]);
+}
+
+void ParkCursor(int index) {
+    RunQuery(index, kParkStatement);
+}
+
+void WaitForCursor(const Recordset& cursor) {
+    while (cursor.HasRow() && !cursor.IsSettled()) {
+        DoEvents();
+    }
+}
+
+void TouchLastUpdate(Touched what) {
+    const QString now = DateText(Now());
+    if (what != Touched::Picture) {
+        frmMain->txtLastUpdate->setText(now);
+    }
+    if (what != Touched::Product && frmPictures != nullptr) {
+        frmPictures->txtLastUpdate->setText(now);
+    }
+}

@@ -1,0 +1,67 @@
+// The program without its window, for servers and scheduled runs: the same settings, the same
+// start-up, the same button. Steps and outcome go to the terminal; the exit code is 0 only if the
+// site reached its destination.
+
+#include "core/settings.h"
+#include "core/startup.h"
+#include "generator/outputs.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/notify.h"
+#include "platform/process.h"
+#include "publish/steps.h"
+#include "publish/workflow.h"
+
+#include <QFileInfo>
+#include <cstdio>
+
+namespace {
+
+constexpr int kButtonUpdate = 0;
+constexpr int kStorageFTP = 1;
+
+void PrintLine(std::FILE* stream, const QString& line) {
+    std::fputs((line + "\n").toUtf8().constData(), stream);
+    std::fflush(stream);
+}
+
+void PrintStart(int index, const QString& text) {
+    PrintLine(stdout, QStringLiteral("%1. %2...").arg(index + 1).arg(text));
+}
+
+void PrintEnd(int index, const QString& text, bool done) {
+    PrintLine(stdout,
+              QStringLiteral("%1. %2: %3").arg(index + 1).arg(text, done ? "hecho" : "ERROR"));
+}
+
+QString Destination() {
+    return StorageMethod == kStorageFTP ? "ftp://" + FTPServer + FTPPath
+                                        : StoragePath + "index.html";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application application(argc, argv);
+    if (argc > 1) {
+        PrintLine(stderr,
+                  "publish no admite opciones: publica según la configuración del usuario.");
+        return EXIT_FAILURE;
+    }
+    SetUnattended();
+    LoadToolkitTexts();
+    StartProgram();
+    if (!QFileInfo(TemplPath).isFile()) {
+        PrintLine(stderr, "No existe la plantilla de diseño " + TemplPath);
+    }
+    SetUpSteps();
+    ListenToSteps({PrintStart, PrintEnd});
+    cmdUpdateWeb_Click(kButtonUpdate);
+    if (LastOutcome != PublishOutcome::Delivered) {
+        PrintLine(stderr, "La web no se ha publicado: " + Destination());
+        EndProcess(EXIT_FAILURE);
+    }
+    PrintLine(stdout, "La web se ha publicado: " + Destination());
+    EndProcess(EXIT_SUCCESS);
+}
