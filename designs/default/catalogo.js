@@ -139,6 +139,7 @@
     const first = (state.p - 1) * perPage;
     for (const name of fields) form.elements[name].value = state[name];
     for (const link of links) {
+      link.hash = address({ ...state, k: link.dataset.path, p: 1 });
       if (link.dataset.path === state.k) link.setAttribute('aria-current', 'true');
       else link.removeAttribute('aria-current');
     }
