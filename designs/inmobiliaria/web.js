@@ -1,0 +1,78 @@
+// What makes the pages more comfortable; every page also works without it.
+(function () {
+  'use strict';
+
+  // The menu tells where the visitor is.
+  const here = location.pathname.split('/').pop() || 'index%LID%.html';
+  for (const link of document.querySelectorAll('.menu a')) {
+    const target = link.getAttribute('href');
+    if (target === here || (here === 'index.html' && target === 'index%LID%.html')) {
+      link.setAttribute('aria-current', 'page');
+    }
+  }
+
+  // Telephone numbers can be dialled.
+  for (const place of document.querySelectorAll('[data-tel]')) {
+    const number = place.textContent.replace(/[^+\d]/g, '');
+    if (number.length < 6) continue;
+    const link = document.createElement('a');
+    link.href = 'tel:' + number;
+    link.append(...place.childNodes);
+    place.append(link);
+  }
+
+  // The price as machines read it: no separator but the decimal point.
+  for (const price of document.querySelectorAll('[itemprop=price]')) {
+    const text = price.textContent.replace(/[^\d.,]/g, '');
+    const decimals = /[.,](\d{2})$/.exec(text);
+    const whole = (decimals ? text.slice(0, -3) : text).replace(/\D/g, '');
+    price.setAttribute('content', (whole || '0') + (decimals ? '.' + decimals[1] : ''));
+  }
+
+  const print = document.querySelector('[data-print]');
+  if (print) {
+    print.hidden = false;
+    print.addEventListener('click', () => window.print());
+  }
+
+  // The monthly instalment of a loan over what the savings leave to pay.
+  const loan = document.querySelector('[data-loan]');
+  const amount = document.querySelector('.deal [itemprop=price]');
+  if (loan && amount) {
+    const money = new Intl.NumberFormat(document.documentElement.lang,
+      { style: 'currency', currency: 'EUR', maximumFractionDigits: 0 });
+    const quote = () => {
+      const [savings, interest, years] = [...loan.querySelectorAll('input')].map((i) => Number(i.value));
+      const debt = Math.max(0, Number(amount.getAttribute('content')) - savings);
+      const rate = interest / 1200;
+      const months = years * 12;
+      const monthly = rate > 0 ? debt * rate / (1 - Math.pow(1 + rate, -months)) : debt / months;
+      loan.querySelector('output').textContent = isFinite(monthly) ? money.format(monthly) : '';
+    };
+    loan.addEventListener('input', quote);
+    loan.addEventListener('submit', (event) => event.preventDefault());
+    loan.hidden = false;
+    quote();
+  }
+
+  // A small picture takes the place of the large one, which becomes a small one itself.
+  const main = document.querySelector('.gallery figure a');
+  const thumbs = document.querySelector('.gallery .thumbs');
+  if (main && thumbs) {
+    thumbs.addEventListener('click', (event) => {
+      const small = event.target.closest('a');
+      if (!small || event.ctrlKey || event.metaKey || event.shiftKey) return;
+      event.preventDefault();
+      const shown = main.firstElementChild;
+      const chosen = small.querySelector('img');
+      const from = shown.getAttribute('src').slice(1);
+      const to = chosen.getAttribute('src').slice(1);
+      shown.srcset = `s${to} 480w, m${to} 960w, g${to} 1920w`;
+      shown.src = 'm' + to;
+      chosen.src = 's' + from;
+      [shown.alt, chosen.alt] = [chosen.alt, shown.alt];
+      [main.href, small.href] = [small.href, main.href];
+      main.parentElement.style.backgroundImage = `url(b${to})`;
+    });
+  }
+})();
