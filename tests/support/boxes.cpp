@@ -1,0 +1,43 @@
+#include "tests/support/boxes.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+#include <QPushButton>
+
+BoxAnswers::BoxAnswers(QMessageBox::StandardButton newAnswer) : answer(newAnswer) {
+    qApp->installEventFilter(this);
+}
+
+QString BoxAnswers::Texts() const {
+    QStringList texts;
+    for (const SeenBox& box : seen) {
+        texts += box.text;
+    }
+    return texts.join("|");
+}
+
+bool BoxAnswers::eventFilter(QObject* object, QEvent* event) {
+    auto* box = qobject_cast<QMessageBox*>(object);
+    if (box != nullptr && event->type() == QEvent::Show) {
+        seen.push_back({box->windowTitle(), box->text(), box->icon()});
+        QMetaObject::invokeMethod(
+            box, [this, box] { Answer(box); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(object, event);
+}
+
+void BoxAnswers::Answer(QMessageBox* box) {
+    QAbstractButton* button = box->button(answer);
+    if (button == nullptr) {
+        button = box->defaultButton();
+    }
+    if (button == nullptr && !box->buttons().isEmpty()) {
+        button = box->buttons().first();
+    }
+    if (button != nullptr) {
+        button->click();
+    } else {
+        box->reject();
+    }
+}

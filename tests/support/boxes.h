@@ -1,0 +1,33 @@
+// Answers the real message boxes that a test provokes, as a user would, and keeps what they said.
+#pragma once
+
+#include <QMessageBox>
+#include <QObject>
+#include <QString>
+#include <vector>
+
+struct SeenBox {
+    QString title;
+    QString text;
+    QMessageBox::Icon icon;
+};
+
+// While it lives, every message box is answered as soon as it is on screen.
+class BoxAnswers : public QObject {
+public:
+    // `answer` is pressed where a box has it; its default button, or its only one, otherwise.
+    explicit BoxAnswers(QMessageBox::StandardButton answer = QMessageBox::NoButton);
+
+    // All boxes so far, in order.
+    std::vector<SeenBox> seen;
+
+    // Their texts, joined by "|".
+    QString Texts() const;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void Answer(QMessageBox* box);
+
+    QMessageBox::StandardButton answer;
+};
