@@ -21,27 +21,38 @@ constexpr char kRoleProperty[] = "role";
 
 // Every icon file is drawn in this colour, which stands for the palette's text colour.
 constexpr char kFileInk[] = "#000000";
+constexpr char kFileAccent[] = "#2f80d8"; // the family's second colour
 
 constexpr double kDisabledOpacity = 0.38;
 constexpr double kTitleScale = 1.3;    // of the desktop's font
 constexpr double kHeadingScale = 1.08; // likewise
 constexpr int kLabelIconSize = 20;     // pixels at 96 dots per inch
 
-// Draws an SVG file in any size; with ink, its text colour is that of the palette.
+enum class Drawing {
+    AsFiled,
+    Inked,    // with the palette's text colour
+    OneColour // on a highlighted button: everything in the colour of its text
+};
+
+// Draws an SVG file in any size.
 class SvgEngine : public QIconEngine {
 public:
-    SvgEngine(QString svgFile, bool isInked) : file(std::move(svgFile)), inked(isInked) {}
+    SvgEngine(QString svgFile, Drawing howDrawn) : file(std::move(svgFile)), drawing(howDrawn) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         QFile source(file);
         if (!source.open(QIODevice::ReadOnly)) {
             return;
         }
-        QByteArray drawing = source.readAll();
-        if (inked) {
-            drawing.replace(kFileInk, Ink(mode).name().toLatin1());
+        QByteArray shapes = source.readAll();
+        const QByteArray ink = Ink(mode).name().toLatin1();
+        if (drawing != Drawing::AsFiled) {
+            shapes.replace(kFileInk, ink);
         }
-        QSvgRenderer renderer(drawing);
+        if (drawing == Drawing::OneColour) {
+            shapes.replace(kFileAccent, ink);
+        }
+        QSvgRenderer renderer(shapes);
         renderer.setAspectRatioMode(Qt::KeepAspectRatio);
         painter->save();
         if (mode == QIcon::Disabled) {
@@ -56,8 +67,8 @@ public:
                                 .arg(file)
                                 .arg(size.width())
                                 .arg(size.height())
-                                .arg(int(mode))
-                                .arg(Ink(mode).name());
+                                .arg(static_cast<int>(mode))
+                                .arg(Ink(mode).name() + QString::number(static_cast<int>(drawing)));
         QPixmap drawn;
         if (!QPixmapCache::find(key, &drawn)) {
             drawn = QPixmap(size);
@@ -73,17 +84,22 @@ public:
     QIconEngine* clone() const override { return new SvgEngine(*this); }
 
 private:
-    static QColor Ink(QIcon::Mode mode) {
-        return QApplication::palette().color(mode == QIcon::Selected ? QPalette::HighlightedText
-                                                                     : QPalette::WindowText);
+    QColor Ink(QIcon::Mode mode) const {
+        const bool highlighted = mode == QIcon::Selected || drawing == Drawing::OneColour;
+        return QApplication::palette().color(highlighted ? QPalette::HighlightedText
+                                                         : QPalette::WindowText);
     }
 
     QString file;
-    bool inked;
+    Drawing drawing;
 };
 
-QIcon SvgIcon(const QString& file, bool inked) {
-    return QFile::exists(file) ? QIcon(new SvgEngine(file, inked)) : QIcon();
+QIcon SvgIcon(const QString& file, Drawing drawing) {
+    return QFile::exists(file) ? QIcon(new SvgEngine(file, drawing)) : QIcon();
+}
+
+QString IconFile(const QString& name) {
+    return ":/icons/" + name + ".svg";
 }
 
 void ScaleFont(QWidget* control, double scale, QFont::Weight weight) {
@@ -117,9 +133,11 @@ void DressFonts(QWidget* form) {
 void DressIcons(QWidget* form) {
     for (QAbstractButton* button : form->findChildren<QAbstractButton*>()) {
         const QString ink = button->property(kInkProperty).toString();
-        if (!ink.isEmpty()) {
-            button->setIcon(InkIcon(ink));
+        if (ink.isEmpty()) {
+            continue;
         }
+        const bool highlighted = button->property(kRoleProperty).toString() == u"primary";
+        button->setIcon(highlighted ? SvgIcon(IconFile(ink), Drawing::OneColour) : InkIcon(ink));
     }
     for (QAction* action : form->findChildren<QAction*>()) {
         const QString ink = action->property(kInkProperty).toString();
@@ -154,16 +172,16 @@ public:
 } // namespace
 
 QIcon InkIcon(const QString& name) {
-    return SvgIcon(":/icons/" + name + ".svg", true);
+    return SvgIcon(IconFile(name), Drawing::Inked);
 }
 
 QIcon FlagIcon(const QString& code) {
-    return SvgIcon(":/flags/" + code.toUpper() + ".svg", false);
+    return SvgIcon(":/flags/" + code.toUpper() + ".svg", Drawing::AsFiled);
 }
 
 QPixmap DrawPicture(const QString& name, QSize size, qreal ratio) {
     Q_INIT_RESOURCE(resources);
-    return SvgIcon(":/pictures/" + name + ".svg", false).pixmap(size, ratio);
+    return SvgIcon(":/pictures/" + name + ".svg", Drawing::AsFiled).pixmap(size, ratio);
 }
 
 void DressForm(QWidget* form) {

@@ -39,7 +39,11 @@ MainForm::MainForm()
     tmrListRefresh->setInterval(kListRefreshInterval);
     tmrUpdate->setInterval(kUpdateDelay);
     DressForm(this);
+    for (QLabel* picture : imgStep) {
+        picture->setPixmap(imgToDoStep->pixmap());
+    }
     ShowTab(0);
+    lstProductList->setFocus();
 }
 
 MainForm::~MainForm() {
@@ -114,6 +118,8 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event) {
         PlaceSuggestions();
     } else if (watched == fraDetail && event->type() == QEvent::Resize && fraZone->isVisible()) {
         PlaceSuggestions();
+    } else if (watched == fraFields && event->type() == QEvent::LayoutRequest) {
+        AlignLabels();
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -179,6 +185,20 @@ void MainForm::SetUpEditor() {
     FollowTips(optLang);
     KeepTextWidth(shpLangAssist, lblToTranslate);
     fraDetail->installEventFilter(this);
+    fraFields->installEventFilter(this);
+}
+
+// The boxes of the record and those of the slots under them begin on one line.
+void MainForm::AlignLabels() {
+    int width = 0;
+    for (QLabel* label : {lblProductRef, lblMLFields_0, lblZone, lblPriceAmount, lblMLFields_1}) {
+        width = std::max(width, label->sizeHint().width());
+    }
+    for (int slot = 0; slot < static_cast<int>(lblFields.size()); slot += fraFields->Columns()) {
+        width = std::max(width, lblFields[slot]->sizeHint().width());
+    }
+    layRecord->setColumnMinimumWidth(0, width);
+    layFields->setColumnMinimumWidth(0, width);
 }
 
 void MainForm::SetUpSuggestions() {

@@ -94,6 +94,7 @@ private:
     void SetUpList();
     void SetUpEditor();
     void SetUpSuggestions();
+    void AlignLabels();
     void PlaceSuggestions();
 };
 

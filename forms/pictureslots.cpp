@@ -1,14 +1,11 @@
 #include "forms/pictureslots.h"
 
-#include "forms/look.h"
-
 #include <QApplication>
 #include <QDrag>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 #include <QUrl>
 
 namespace {
@@ -37,9 +34,8 @@ void ClickArea::paintEvent(QPaintEvent*) {
         return;
     }
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DashLine));
+    painter.drawRect(rect().adjusted(5, 5, -6, -6));
 }
 
 void ClickArea::mousePressEvent(QMouseEvent* event) {
