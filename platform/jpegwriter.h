@@ -7,5 +7,6 @@
 // Quality of every published picture, 0 to 100. Fixed.
 inline constexpr int kJpegQuality = 80;
 
-// YCbCr with the chroma halved in both directions. An image of no pixels throws PictureError.
+// YCbCr with the chroma halved in both directions, sides up to 65,500 pixels. An image beyond that,
+// or of no pixels, throws PictureError.
 QByteArray EncodeJpeg(const QImage& image);
