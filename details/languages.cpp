@@ -1,8 +1,10 @@
 #include "details/languages.h"
 
 #include "core/settings.h"
+#include "forms/mainform.h"
 #include "platform/controls.h"
 #include "store/languages.h"
+#include "store/langvalues.h"
 
 #include <QIcon>
 #include <QToolButton>
@@ -21,6 +23,15 @@ void DressButton(QToolButton* button, const QString& code) {
     button->setChecked(!code.isEmpty() && code == UICurrentLang);
 }
 
+void optLang_Click(const QToolButton* button) {
+    if (!LangButtonsReady || Tag(button) == UICurrentLang) {
+        return;
+    }
+    SaveProductLangIfChanged();
+    SetUICurrentLang(Tag(button));
+    LoadProductLangValues();
+}
+
 } // namespace
 
 void ArrangeLangButtons(QWidget* fraLang, const std::vector<QToolButton*>& optLang) {
@@ -31,4 +42,16 @@ void ArrangeLangButtons(QWidget* fraLang, const std::vector<QToolButton*>& optLa
     }
     fraLang->setVisible(UserLangs.contains(kLanguageSeparator));
     LangButtonsReady = true;
+}
+
+void ConnectLangButtons() {
+    for (QToolButton* button : frmMain->optLang) {
+        QObject::connect(button, &QToolButton::clicked, frmMain,
+                         [button] { optLang_Click(button); });
+    }
+}
+
+void ReturnToLanguage(const QString& lang) {
+    SetUICurrentLang(lang);
+    LoadProductLangValues();
 }

@@ -1,15 +1,24 @@
 #include "editor/mainscreen.h"
 
+#include "config/configdialog.h"
+#include "core/flavour.h"
 #include "core/settings.h"
 #include "core/vocabulary.h"
-#include "editor/buttons.h"
+#include "details/assistance.h"
+#include "details/languages.h"
+#include "editor/about.h"
+#include "editor/actions.h"
 #include "editor/productform.h"
 #include "editor/productlist.h"
 #include "forms/mainform.h"
 #include "generator/templatepreview.h"
+#include "platform/controlevents.h"
+#include "platform/dialogs.h"
 #include "publish/steps.h"
+#include "store/fielddefs.h"
 #include "store/productref.h"
 #include "store/products.h"
+#include "store/store.h"
 
 namespace {
 
@@ -19,46 +28,130 @@ constexpr int kStorageFTP = 1;
 constexpr int kMessageListed = 1;
 constexpr int kMessageFeatured = 2;
 
-// A longer path is shortened in its middle, characters.
+// A path of this length or more is shortened in its middle, characters.
 constexpr int kPathShown = 48;
+constexpr char kEllipsis[] = "...";
 
 QString Shortened(const QString& path) {
     if (path.size() < kPathShown) {
         return path;
     }
     const auto half = (kPathShown - 3) / 2;
-    return path.left(half) + "..." + path.right(half);
+    return path.left(half) + kEllipsis + path.right(half);
 }
 
 void ShowDestination() {
-    const QStringList labels =
+    static const QStringList kLabels =
         QStringLiteral("Carpeta de acceso local:|Servidor de Internet:").split(u'|');
     const bool ftp = StorageMethod == kStorageFTP;
     const QString path =
         ftp ? "ftp://" + FTPServer + FTPPath : StoragePath.left(StoragePath.size() - 1);
-    frmMain->lblWhereSave[0]->setText(labels[ftp ? 1 : 0]);
+    frmMain->lblWhereSave[0]->setText(kLabels[ftp ? 1 : 0]);
     frmMain->lblWhereSave[1]->setText(Shortened(path));
     frmMain->lblWhereSave[1]->setToolTip(path);
 }
 
 void ShowCounts() {
+    const QString featured = QStringLiteral("%1 de %2").arg(FeaturedCount).arg(TemplMaxEmph);
     frmMain->lblNumProducts[0]->setText(
         QString(Messages[kMessageListed]).replace("%1", QString::number(ListRowCount())));
     frmMain->lblNumProducts[1]->setText(
-        QString(Messages[kMessageFeatured])
-            .replace("%1", QStringLiteral("%1 de %2").arg(FeaturedCount).arg(TemplMaxEmph)));
+        QString(Messages[kMessageFeatured]).replace("%1", featured));
+}
+
+// The configuration may have moved the catalogue: then the new one is opened in place of the old.
+void OpenConfig(int page) {
+    const QString before = DBpath;
+    ShowConfig(page);
+    if (DBpath != before) {
+        ReleaseCurrent();
+        CloseStore();
+        while (OpenStore() != 0) {
+            ShowConfig(kPageAdvanced);
+        }
+        CurrentListSQL.clear();
+        LoadFieldDefs();
+        RefreshProductList();
+    }
+    RefreshPublishTab(true);
+}
+
+void ConnectTabs() {
+    for (int tab = 0; tab < static_cast<int>(frmMain->lblTab.size()); ++tab) {
+        const auto select = [tab] { SelectMainTab(tab); };
+        QObject::connect(frmMain->lblTab[tab], &QToolButton::clicked, frmMain, select);
+        QObject::connect(frmMain->imgTab[tab], &QToolButton::clicked, frmMain, select);
+        QObject::connect(frmMain->mnuTabs[tab], &QAction::triggered, frmMain, select);
+    }
+}
+
+void ConnectMenus() {
+    for (int page = 0; page < static_cast<int>(frmMain->mnuConfig.size()); ++page) {
+        QObject::connect(frmMain->mnuConfig[page], &QAction::triggered, frmMain,
+                         [page] { OpenConfig(page); });
+    }
+    const auto openDesigns = [] { OpenConfig(kPageDesign); };
+    const auto openHosting = [] { OpenConfig(kPageHosting); };
+    QObject::connect(frmMain->cmdTemplates, &QPushButton::clicked, frmMain, openDesigns);
+    QObject::connect(frmMain->cmdHosting, &QPushButton::clicked, frmMain, openHosting);
+    QObject::connect(frmMain->mnuActionsGen[0], &QAction::triggered, frmMain->cmdUpdateWeb[0],
+                     &QPushButton::click);
+    QObject::connect(frmMain->mnuActionsGen[1], &QAction::triggered, frmMain, openDesigns);
+    QObject::connect(frmMain->mnuActionsGen[2], &QAction::triggered, frmMain, openHosting);
+    QObject::connect(frmMain->mnuExit, &QAction::triggered, frmMain, &QWidget::close);
+    QObject::connect(frmMain->mnuHelpContents, &QAction::triggered, frmMain, OpenManual);
+    QObject::connect(frmMain->mnuAbout, &QAction::triggered, frmMain, ShowAbout);
+    QObject::connect(frmMain->imgPerlantaLogo, &QToolButton::clicked, frmMain, OpenHomePage);
+}
+
+QString OpenProductId() {
+    return frmMain->txtProductId->text();
+}
+
+void ConnectTextAssistance() {
+    auto* events = new ControlEvents(frmMain);
+    for (QWidget* box : frmMain->txtMLFields) {
+        events->Watch(box);
+    }
+    ConnectAssistance({frmMain->fraLangAssist, frmMain->lblToTranslate, frmMain->lblLangScroll,
+                       frmMain->txtMLFields, "Products"},
+                      events, OpenProductId);
+}
+
+// False if the product could not be saved and the user would rather stay.
+bool SaveBeforeEnd() {
+    try {
+        SaveCurrentProduct();
+        return true;
+    } catch (const StoreError& error) {
+        return MsgBox("No se han podido guardar los últimos cambios: " + error.Text() +
+                          "\n\n¿Desea salir sin guardarlos?",
+                      BoxIcon::Warning, BoxButtons::YesNo, BoxAnswer::No,
+                      AppName) == BoxAnswer::Yes;
+    }
 }
 
 } // namespace
 
-void RefreshPublishTab(bool reloadPreview) {
-    if (reloadPreview || frmMain->imgTemplPreview->pixmap(Qt::ReturnByValue).isNull()) {
-        LoadTemplatePreview(TemplPath, frmMain->lblTemplName, nullptr, nullptr, nullptr,
-                            frmMain->imgTemplPreview, 1);
+void ConnectMainScreen() {
+    ConnectProductList();
+    ConnectProductForm();
+    ConnectLangButtons();
+    ConnectTextAssistance();
+    ConnectActions();
+    ConnectTabs();
+    ConnectMenus();
+}
+
+void LeaveMainScreen(bool& cancel) {
+    cancel = false;
+    if (!StoreOpen) {
+        return;
     }
-    ShowCounts();
-    ShowDestination();
-    SetUpSteps();
+    if (ListRowCount() > 0) {
+        ValidateProductRef(cancel, false);
+    }
+    cancel = cancel || !SaveBeforeEnd();
 }
 
 void SelectMainTab(int tab) {
@@ -73,22 +166,12 @@ void SelectMainTab(int tab) {
     }
 }
 
-void LeaveMainScreen(bool& cancel) {
-    cancel = false;
-    if (ListRowCount() > 0) {
-        ValidateProductRef(cancel, false);
+void RefreshPublishTab(bool reloadPreview) {
+    if (reloadPreview || frmMain->imgTemplPreview->pixmap(Qt::ReturnByValue).isNull()) {
+        LoadTemplatePreview(TemplPath, frmMain->lblTemplName, nullptr, nullptr, nullptr,
+                            frmMain->imgTemplPreview, 1);
     }
-    if (!cancel) {
-        SaveCurrentProduct();
-    }
-}
-
-void ConnectMainScreen() {
-    for (int tab = 0; tab < static_cast<int>(frmMain->lblTab.size()); ++tab) {
-        QObject::connect(frmMain->lblTab[tab], &QToolButton::clicked, frmMain,
-                         [tab] { SelectMainTab(tab); });
-        QObject::connect(frmMain->mnuTabs[tab], &QAction::triggered, frmMain,
-                         [tab] { SelectMainTab(tab); });
-    }
-    QObject::connect(frmMain->mnuExit, &QAction::triggered, frmMain, &QWidget::close);
+    ShowCounts();
+    ShowDestination();
+    SetUpSteps();
 }

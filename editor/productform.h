@@ -4,5 +4,9 @@
 // Empties all controls; a new product still pending loses its row lock.
 void ClearProductForm();
 
+// Moves the focus from slot `index` to what the user sees of the next one, or on to the short
+// description.
+void FocusNextField(int index);
+
 // Connects the editor's controls to their handlers.
 void ConnectProductForm();

@@ -29,6 +29,8 @@ constexpr char kListStatement[] =
     "Products p LEFT JOIN MultiLangFields ml ON (cstr(p.ProductId)=ml.ItemId AND "
     "ml.TableName='Products' AND ml.LangCode='%1' AND ml.FieldDefId=0)";
 
+constexpr char kProductCountStatement[] = "SELECT count(*) FROM Products";
+
 constexpr char kEndOfBase[] = "AND ml.FieldDefId=0)"; // a filter stands behind it
 constexpr char kOrderBy[] = "ORDER BY";
 constexpr std::array<const char*, 3> kSortNames = {"ProductRef", "FieldValue", "PriceAmount"};
@@ -50,6 +52,78 @@ ProductRow RowOf(const Recordset& product) {
             status == kStatusFeatured};
 }
 
+// Between fills the cursor holds nothing; a sort or a search has just run its statement.
+bool ListIsParked() {
+    return adcData[kCursorList].Source() == QLatin1StringView(kParkStatement);
+}
+
+int RowOfProduct(const QString& productId) {
+    const auto found = std::find(ProductIds.begin(), ProductIds.end(), productId.toInt());
+    return found == ProductIds.end() ? -1 : static_cast<int>(found - ProductIds.begin());
+}
+
+// A save that fails keeps the product on screen: its row is selected again before the failure is
+// told.
+void SaveBeforeLeaving() {
+    try {
+        SaveCurrentProduct();
+    } catch (const StoreError&) {
+        SelectRow(RowOfProduct(frmMain->txtProductId->text()));
+        throw;
+    }
+}
+
+void lstProductList_RowClick() {
+    if (FillingForm || SelectedRow() < 0) {
+        return;
+    }
+    const int clicked = SelectedRow();
+    SaveBeforeLeaving();
+    if (NewProductPending) {
+        int position = 1;
+        NewProductPending = false;
+        RefreshProductList(position, QString::number(ProductIds[clicked]), false);
+    } else if (frmMain->txtProductId->text() != List().Text(clicked, 0)) {
+        // The number is held against the reference, as it has always been: a product whose
+        // reference is the number of the one in the editor is not loaded by a click.
+        LoadSelectedProduct();
+    }
+    RefreshButtons();
+}
+
+void lstProductList_ColumnClick(int column) {
+    QString noted;
+    if (ListRowCount() > 0) {
+        noted = List().Text(SelectedRow(), 0);
+        SaveBeforeLeaving();
+    }
+    SortDescending = column == SortColumn && !SortDescending;
+    SortColumn = column;
+    frmMain->lstProductList->header()->setSortIndicator(
+        SortColumn, SortDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    SortProductList(kListSelector, SortColumn, !SortDescending);
+    if (adcData[kCursorList].RecordCount() > 0) {
+        int position = 1;
+        RefreshProductList(position, noted, false);
+    }
+}
+
+// Another user's inserts and deletes show up, but only while no search is on: then the counts
+// differ by nature.
+void tmrListRefresh_Timer() {
+    RunQuery(kCursorScratch, kProductCountStatement);
+    const auto count = CellInteger(adcData[kCursorScratch].Value(0));
+    if (count == ListRowCount() || frmMain->Button("Search")->isChecked()) {
+        return;
+    }
+    int position = 1;
+    const QString shown = frmMain->txtProductId->text();
+    RefreshProductList(position, shown, true);
+    if (RowOfProduct(shown) < 0 && ListRowCount() > 0) {
+        LoadSelectedProduct(); // the one in the editor was deleted
+    }
+}
+
 // Reads all rows of cursor 2; `position` becomes the row of `productId`.
 void ReadRows(int& position, const QString& productId) {
     Recordset& products = adcData[kCursorList];
@@ -67,6 +141,7 @@ void ReadRows(int& position, const QString& productId) {
         rows.push_back(RowOf(products));
         DoEvents();
     }
+    const FillingGuard filling;
     ProductIds = std::move(ids);
     List().SetRows(std::move(rows));
 }
@@ -116,9 +191,6 @@ void ReleaseCurrent() {
         SelectedRef = List().Text(SelectedRow(), 0);
         SaveCurrentProduct();
     }
-    const QHeaderView* header = frmMain->lstProductList->header();
-    SortColumn = std::max(header->sortIndicatorSection(), 0);
-    SortDescending = header->sortIndicatorOrder() == Qt::DescendingOrder;
 }
 
 void RefreshProductList(int& position, QString productId, bool keepEditor) {
@@ -127,7 +199,7 @@ void RefreshProductList(int& position, QString productId, bool keepEditor) {
         productId = BuildListQuery();
     } else {
         ReleaseCurrent();
-        RunQuery(kCursorList, CurrentListSQL);
+        RunQuery(kCursorList, ListIsParked() ? CurrentListSQL : adcData[kCursorList].Source());
         clear = productId.isEmpty() || productId != frmMain->txtProductId->text();
     }
     FeaturedCount = 0;
@@ -155,8 +227,11 @@ void RemoveFromList() {
     if (row < 0) {
         return;
     }
-    List().RemoveRow(row);
-    ProductIds.erase(ProductIds.begin() + row);
+    {
+        const FillingGuard filling;
+        List().RemoveRow(row);
+        ProductIds.erase(ProductIds.begin() + row);
+    }
     if (ListRowCount() > 0) {
         SelectRow(std::min(row, ListRowCount() - 1));
         LoadSelectedProduct();
@@ -194,9 +269,30 @@ void LoadSelectedProduct() {
         return;
     }
     if (LoadProduct(QString::number(ProductIds[row])) == ProductState::Gone) {
-        MsgBox(Messages[kMessageGone], BoxIcon::Information, Messages[kMessageGoneTitle]);
-        RemoveFromList();
+        TellProductGone();
     }
+}
+
+void TellProductGone() {
+    MsgBox(Messages[kMessageGone], BoxIcon::Information, Messages[kMessageGoneTitle]);
+    RemoveFromList();
+}
+
+void ConnectProductList() {
+    QTreeView* list = frmMain->lstProductList;
+    list->header()->setSortIndicatorShown(true);
+    list->header()->setSortIndicator(SortColumn, Qt::AscendingOrder);
+    QObject::connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, frmMain,
+                     lstProductList_RowClick);
+    QObject::connect(list->header(), &QHeaderView::sectionClicked, frmMain,
+                     lstProductList_ColumnClick);
+    QObject::connect(list, &QAbstractItemView::doubleClicked, frmMain,
+                     [] { frmMain->txtProductRef->setFocus(); });
+    auto* deleteKey =
+        new QShortcut(QKeySequence(Qt::Key_Delete), list, nullptr, nullptr, Qt::WidgetShortcut);
+    QObject::connect(deleteKey, &QShortcut::activated, frmMain,
+                     [] { frmMain->Button("Del")->trigger(); });
+    QObject::connect(frmMain->tmrListRefresh, &QTimer::timeout, frmMain, tmrListRefresh_Timer);
 }
 
 int ListRowCount() {

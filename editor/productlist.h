@@ -50,6 +50,13 @@ void UpdateListRow(int column, const QString& text);
 // remembers.
 void MarkListRow(int row, int status);
 
+// Tells the user that the product in the editor was deleted by somebody else, and takes its row out
+// of the list.
+void TellProductGone();
+
+// Connects the list's clicks and keys and the refresh timer.
+void ConnectProductList();
+
 // Fills the editor from the selected row; a product that another user has deleted is told and taken
 // out of the list.
 void LoadSelectedProduct();

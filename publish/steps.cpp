@@ -51,12 +51,13 @@ void ShowState(int step, StepState state) {
     if (step >= kStepCount) {
         return;
     }
+    const bool changed = states[step] != state;
     states[step] = state;
     QLabel* image = frmMain->imgStep[step];
     image->setPixmap(PictureOf(state)->pixmap(Qt::ReturnByValue));
     image->repaint();
 
-    const bool shown = !frmMain->lblSteps[step]->isHidden();
+    const bool shown = changed && !frmMain->lblSteps[step]->isHidden();
     if (shown && state == StepState::Current && stepListener.started) {
         stepListener.started(step, StepText(step));
     } else if (shown && (state == StepState::Done || state == StepState::Failed) &&

@@ -1,17 +1,138 @@
 #include "store/picturerecords.h"
 
+#include "core/settings.h"
 #include "core/vocabulary.h"
 #include "forms/mainform.h"
+#include "forms/picturesform.h"
+#include "platform/controls.h"
+#include "platform/dates.h"
+#include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/fileops.h"
 #include "platform/numbers.h"
+#include "store/langvalues.h"
 #include "store/store.h"
 
 namespace {
 
-// %1 is a product number.
+// %1 is a product number in the first three, a picture number in the last; %2 a place in the album.
 constexpr char kPicturesStatement[] =
     "Select * from Pictures WHERE ProductId = %1 ORDER BY OrderInForm";
+constexpr char kNextNumberStatement[] =
+    "SELECT Max(ProdPictureId) + 1 FROM Pictures WHERE ProductId = %1";
+constexpr char kBehindStatement[] =
+    "SELECT * FROM Pictures WHERE ProductId = %1 AND OrderInForm > %2 ORDER BY OrderInForm";
+constexpr char kTextsStatement[] =
+    "SELECT * FROM MultiLangFields WHERE TableName='Pictures' AND ItemId='%1'";
+
+constexpr int kPicturesPerProduct = 100; // numbers that a product's pictures share
 
 constexpr int kMessageCountOfPictures = 0;
+constexpr int kMessageLimit = 7;
+
+// Of the last picture chosen; empty when the album closes.
+QString lastPicFolder;
+
+Recordset& Rows() {
+    return adcData[kCursorPictures];
+}
+
+bool ReadOnly() {
+    return !frmMain->fraReadOnly->isHidden();
+}
+
+qint64 NumberIn(const QLineEdit* box) {
+    return static_cast<qint64>(LeadingNumber(box->text()));
+}
+
+QString ShownDate(const QString& stored) {
+    const auto moment = ReadDate(stored);
+    return moment ? DateText(*moment) : stored;
+}
+
+QString StoredDate(const QString& shown) {
+    const auto moment = ReadDate(shown);
+    return moment ? StoredDateText(*moment) : shown;
+}
+
+void TellLimit() {
+    MsgBox("No se pueden incluir más de " + QString::number(PictureLimit()) +
+               Messages[kMessageLimit],
+           BoxIcon::Warning, "Añadir Fotografía");
+}
+
+bool RowDiffers() {
+    const Recordset& row = Rows();
+    return row.IsNull(u"LastUpdate") ||
+           ShownDate(row.Text(u"LastUpdate")) != frmPictures->txtLastUpdate->text() ||
+           row.Text(u"PicturePath") != frmPictures->txtPicturePath->text() ||
+           row.Integer(u"OrderInForm") != NumberIn(frmPictures->txtOrderInForm) ||
+           row.Integer(u"PictureId") != NumberIn(frmPictures->txtPictureId) ||
+           row.Integer(u"ProdPictureId") != NumberIn(frmPictures->txtProdPictureId) ||
+           row.Integer(u"ProductId") != NumberIn(frmPictures->txtProductId);
+}
+
+// Numbers of a new picture into the boxes and into its row, which is current.
+void NumberNewRow() {
+    const QString productId = frmMain->txtProductId->text();
+    RunQuery(kCursorScratch, QString(kNextNumberStatement).replace("%1", productId));
+    const Cell& next = adcData[kCursorScratch].Value(0);
+    const qint64 number = IsNull(next) ? 1 : CellInteger(next);
+    const qint64 pictureId = productId.toLongLong() * kPicturesPerProduct + number;
+    frmPictures->txtProductId->setText(productId);
+    frmPictures->txtProdPictureId->setText(QString::number(number));
+    frmPictures->txtPictureId->setText(QString::number(pictureId));
+    frmPictures->txtOrderInForm->setText(QString::number(Rows().RecordCount() - 1));
+    Rows().Set(u"ProductId", productId.toLongLong());
+    Rows().Set(u"PictureId", pictureId);
+    Rows().Set(u"ProdPictureId", number);
+    Rows().Set(u"OrderInForm", qint64{Rows().RecordCount() - 1});
+}
+
+// The copy and its name are in the boxes; the texts' rows are committed with the picture's first
+// save.
+void CommitNewRow() {
+    Rows().Set(u"PicturePath", frmPictures->txtPicturePath->text());
+    Rows().Set(u"LastUpdate", StoredDate(frmPictures->txtLastUpdate->text()));
+    CreateLangRows("Pictures", frmPictures->txtPictureId->text(), UICurrentLang);
+    Rows().Update();
+    WaitForCursor(Rows());
+}
+
+void DropNewRow(int position) {
+    Rows().Requery();
+    if (Rows().RecordCount() > 0) {
+        Rows().SetAbsolutePosition(std::max(position, 1));
+        ShowPictureRecord();
+    } else {
+        ClearPictureBoxes();
+    }
+}
+
+// Closes the gap that the picture at place `order` has left.
+void CloseGap(const QString& productId, qint64 order) {
+    RunQuery(
+        kCursorScratch,
+        QString(kBehindStatement).replace("%1", productId).replace("%2", QString::number(order)));
+    Recordset& behind = adcData[kCursorScratch];
+    for (; behind.HasRow(); behind.MoveNext()) {
+        behind.Set(u"OrderInForm", behind.Integer(u"OrderInForm") - 1);
+    }
+    behind.Update();
+    ParkCursor(kCursorScratch);
+}
+
+void DeleteTexts(const QString& pictureId) {
+    RunQuery(kCursorTexts, QString(kTextsStatement).replace("%1", pictureId));
+    Recordset& texts = adcData[kCursorTexts];
+    while (texts.RecordCount() > 0) {
+        texts.MoveFirst();
+        texts.Delete();
+        DoEvents();
+    }
+    texts.Update();
+    WaitForCursor(texts);
+}
 
 } // namespace
 
@@ -19,7 +140,141 @@ void LoadPictures() {
     const double productId = LeadingNumber(frmMain->txtProductId->text());
     RunQuery(kCursorPictures,
              QString(kPicturesStatement).replace("%1", QString::number(productId, 'f', 0)));
-    const int count = adcData[kCursorPictures].RecordCount();
+    const int count = Rows().RecordCount();
     frmMain->txtPicture->setText(
         QString(Messages[kMessageCountOfPictures]).replace("%1", QString::number(count)));
+}
+
+void ShowPictureRecord() {
+    if (!Rows().HasRow()) {
+        ClearPictureBoxes();
+        return;
+    }
+    frmPictures->txtProdPictureId->setText(Rows().Text(u"ProdPictureId"));
+    frmPictures->txtProductId->setText(Rows().Text(u"ProductId"));
+    frmPictures->txtPictureId->setText(Rows().Text(u"PictureId"));
+    frmPictures->txtOrderInForm->setText(Rows().Text(u"OrderInForm"));
+    frmPictures->txtPicturePath->setText(Rows().Text(u"PicturePath"));
+    frmPictures->txtLastUpdate->setText(ShownDate(Rows().Text(u"LastUpdate")));
+    LoadPictureLangValues();
+}
+
+void ClearPictureBoxes() {
+    for (QLineEdit* box :
+         {frmPictures->txtProdPictureId, frmPictures->txtProductId, frmPictures->txtPictureId,
+          frmPictures->txtOrderInForm, frmPictures->txtPicturePath, frmPictures->txtLastUpdate}) {
+        box->clear();
+    }
+    for (QWidget* box : frmPictures->txtMLFields) {
+        SetControlText(box, {});
+    }
+}
+
+void SavePictureIfChanged() {
+    if (ReadOnly() || !Rows().HasRow() || frmPictures->txtOrderInForm->text().isEmpty()) {
+        return;
+    }
+    if (LangValuesDiffer(frmPictures->txtMLFields) || RowDiffers()) {
+        SavePicture();
+    }
+}
+
+void SavePicture() {
+    if (ReadOnly()) {
+        return;
+    }
+    Rows().Set(u"ProdPictureId", NumberIn(frmPictures->txtProdPictureId));
+    Rows().Set(u"ProductId", NumberIn(frmPictures->txtProductId));
+    Rows().Set(u"PictureId", NumberIn(frmPictures->txtPictureId));
+    Rows().Set(u"OrderInForm", NumberIn(frmPictures->txtOrderInForm));
+    Rows().Set(u"PicturePath", frmPictures->txtPicturePath->text());
+    TouchLastUpdate(Touched::All);
+    Rows().Set(u"LastUpdate", StoredDate(frmPictures->txtLastUpdate->text()));
+    Rows().Update();
+    WaitForCursor(Rows());
+    SavePictureLangValues();
+}
+
+PictureResult AddPicture(const QString& path) {
+    if (Rows().RecordCount() >= PictureLimit()) {
+        TellLimit();
+        return PictureResult::LimitReached;
+    }
+    SavePictureIfChanged();
+    ClearPictureBoxes();
+    const int position = Rows().AbsolutePosition();
+    Rows().AddNew();
+    WaitForCursor(Rows());
+    NumberNewRow();
+    const PictureResult result = ChangePictureFile(path);
+    if (result == PictureResult::Done) {
+        CommitNewRow();
+    } else {
+        DropNewRow(position);
+    }
+    return result;
+}
+
+PictureResult ChangePictureFile(const QString& path) {
+    QString source = path;
+    if (source.isEmpty()) {
+        source = BrowsePicture(frmPictures, "Seleccione la Fotografía",
+                               lastPicFolder.isEmpty() ? UIDefPictPath : lastPicFolder);
+    }
+    if (source.isEmpty()) {
+        return PictureResult::NotCopied;
+    }
+    lastPicFolder = source.left(source.lastIndexOf(u'/'));
+    const QString name = "Pic" + frmPictures->txtPictureId->text() + ".dat";
+    if (FileOperation(FileOp::Copy, {source}, DBpath + name) != 0) {
+        return PictureResult::NotCopied;
+    }
+    frmPictures->txtPicturePath->setText(name);
+    TouchLastUpdate(Touched::Picture);
+    return PictureResult::Done;
+}
+
+void DeletePicture() {
+    const QString productId = frmPictures->txtProductId->text();
+    const QString pictureId = frmPictures->txtPictureId->text();
+    const qint64 order = NumberIn(frmPictures->txtOrderInForm);
+    FileOperation(FileOp::Delete, {DBpath + frmPictures->txtPicturePath->text()}, {});
+    if (Rows().HasRow() && !Rows().IsNull(u"PictureId")) {
+        Rows().Delete();
+        Rows().Update();
+        Rows().Requery();
+        WaitForCursor(Rows());
+        if (order < Rows().RecordCount()) {
+            CloseGap(productId, order);
+        }
+        TouchLastUpdate(Touched::Product);
+    }
+    Rows().Requery();
+    Rows().MoveFirst();
+    DeleteTexts(pictureId);
+    ClearPictureBoxes();
+    ShowPictureRecord();
+}
+
+void MovePicture(int from, int to) {
+    SavePictureIfChanged();
+    Rows().SetAbsolutePosition(from);
+    Rows().Set(u"OrderInForm", qint64{to - 1});
+    Rows().Update();
+    Rows().SetAbsolutePosition(to);
+    Rows().Set(u"OrderInForm", qint64{from - 1});
+    Rows().Update();
+    Rows().Requery();
+    WaitForCursor(Rows());
+    Rows().SetAbsolutePosition(to);
+    ShowPictureRecord();
+    TouchLastUpdate(Touched::Product);
+}
+
+int PictureLimit() {
+    return static_cast<int>(frmPictures->fraPicPreview.size());
+}
+
+void ForgetPictureFolder() {
+    lastPicFolder.clear();
 }
