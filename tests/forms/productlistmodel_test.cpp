@@ -1,0 +1,60 @@
+#include "forms/productlistmodel.h"
+
+#include <QAbstractItemModelTester>
+#include <QColor>
+#include <QFont>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct ProductListModelTest : testing::Test {
+    ProductListModel model;
+    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+
+    ProductListModelTest() {
+        model.AddColumn("ProductRef", "Ref.", false);
+        model.AddColumn("ShortDesc", "Descripción breve", false);
+        model.AddColumn("PriceAmount", "Precio", true);
+        model.SetRows({{{"A", "Mesa", "10"}}, {{"B", "Silla", "20"}, true}, {{"C", "Sofá", "30"}}});
+    }
+};
+
+TEST_F(ProductListModelTest, RowsFollowEveryChange) {
+    model.AppendRow({{"D", "Cama", "40"}});
+    model.RemoveRow(0);
+    model.SetCell(1, 1, "Sofá cama");
+    EXPECT_EQ(model.RowCount(), 3);
+    EXPECT_EQ(model.Text(0, 0), "B");
+    EXPECT_EQ(model.Text(1, 1), "Sofá cama");
+    EXPECT_EQ(model.Text(2, 2), "40");
+    model.Clear();
+    EXPECT_EQ(model.RowCount(), 0);
+}
+
+TEST_F(ProductListModelTest, RowThatIsNotThereChangesNothing) {
+    for (const int row : {-1, 3}) {
+        model.RemoveRow(row);
+        model.SetCell(row, 0, "X");
+        model.SetMark(row, true, true);
+        EXPECT_EQ(model.Text(row, 0), QString());
+    }
+    EXPECT_EQ(model.RowCount(), 3);
+}
+
+TEST_F(ProductListModelTest, MarksColourTheRowAndEmboldenTheDescription) {
+    model.SetMark(2, false, true);
+    const auto grey = [&](int row, int column) {
+        return model.data(model.index(row, column), Qt::ForegroundRole).value<QColor>() ==
+               QColor(0x90, 0x90, 0x90);
+    };
+    const auto bold = [&](int row, int column) {
+        return model.data(model.index(row, column), Qt::FontRole).value<QFont>().bold();
+    };
+    for (int column = 0; column < kProductColumns; ++column) {
+        EXPECT_TRUE(grey(1, column));
+        EXPECT_FALSE(grey(2, column));
+        EXPECT_EQ(bold(2, column), column == 1);
+    }
+}
+
+} // namespace
