@@ -94,7 +94,8 @@
   }
 
   const money = new Intl.NumberFormat(document.documentElement.lang, {
-    style: 'currency', currency: 'EUR', trailingZeroDisplay: 'stripIfInteger', useGrouping: 'always'
+    minimumFractionDigits: 2, maximumFractionDigits: 2, trailingZeroDisplay: 'stripIfInteger',
+    useGrouping: 'always'
   });
 
   function card(product) {
@@ -105,7 +106,7 @@
       width: 400, height: 300, alt: '', loading: 'lazy'
     });
     const price = product.price
-      ? element('span', { class: 'amount' }, money.format(product.price))
+      ? element('span', { class: 'amount' }, money.format(product.price) + ' \u20ac')
       : element('span', { class: 'ask' }, "%%W.ONREQUEST%%");
     return element('li', { class: 'card' },
       element('a', { href: `ficha${product.id}%LID%.html` },
@@ -169,7 +170,10 @@
   }
 
   form.addEventListener('input', apply);
-  form.addEventListener('submit', (event) => event.preventDefault());
+  form.addEventListener('submit', (event) => {
+    event.preventDefault();
+    document.getElementById('resultado').focus();
+  });
   form.addEventListener('reset', () => {
     history.replaceState(null, '', address({ o: readState().o }));
     setTimeout(show);

@@ -93,7 +93,7 @@
   }
 
   const money = new Intl.NumberFormat(language, {
-    style: 'currency', currency: 'EUR', maximumFractionDigits: 0, useGrouping: 'always'
+    maximumFractionDigits: 0, useGrouping: 'always'
   });
   const types = new Map([...form.elements.t.options].map((option) => [option.value, option.text]));
 
@@ -112,7 +112,7 @@
       element('span', { class: 'place' }, [type, home.zone].filter(Boolean).join(', ')),
       element('h3', {}, home.title),
       element('p', { class: 'price' },
-        home.price ? money.format(home.price) : element('span', { class: 'ask' }, "%%W.ONREQUEST%%")),
+        home.price ? money.format(home.price) + ' \u20ac' : element('span', { class: 'ask' }, "%%W.ONREQUEST%%")),
       element('p', { class: 'sizes' }, ...sizes)));
   }
 
@@ -177,7 +177,10 @@
     history.replaceState(null, '', location.pathname + address(Object.fromEntries(sent)));
   }
   form.addEventListener('input', apply);
-  form.addEventListener('submit', (event) => event.preventDefault());
+  form.addEventListener('submit', (event) => {
+    event.preventDefault();
+    document.getElementById('resultado').focus();
+  });
   form.addEventListener('reset', () => {
     history.replaceState(null, '', address({ o: readState().o }));
     setTimeout(show);

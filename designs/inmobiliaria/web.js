@@ -40,17 +40,16 @@
   const amount = document.querySelector('.deal [itemprop=price]');
   if (loan && amount) {
     const money = new Intl.NumberFormat(document.documentElement.lang,
-      { style: 'currency', currency: 'EUR', maximumFractionDigits: 0 });
+      { maximumFractionDigits: 0 });
     const quote = () => {
       const [savings, interest, years] = [...loan.querySelectorAll('input')].map((i) => Number(i.value));
       const debt = Math.max(0, Number(amount.getAttribute('content')) - savings);
       const rate = interest / 1200;
       const months = years * 12;
       const monthly = rate > 0 ? debt * rate / (1 - Math.pow(1 + rate, -months)) : debt / months;
-      loan.querySelector('output').textContent = isFinite(monthly) ? money.format(monthly) : '';
+      loan.querySelector('output').textContent = isFinite(monthly) ? money.format(monthly) + ' \u20ac' : '';
     };
     loan.addEventListener('input', quote);
-    loan.addEventListener('submit', (event) => event.preventDefault());
     loan.hidden = false;
     quote();
   }
