@@ -17,18 +17,17 @@ public:
     }
 };
 
+// The panel is told by the toolkit when its size or the text in it has changed.
 class TextSizer : public QObject {
 public:
     TextSizer(QWidget* textPanel, QLabel* shownText)
         : QObject(textPanel), panel(textPanel), text(shownText) {
         panel->installEventFilter(this);
-        text->installEventFilter(this);
     }
 
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool resized = watched == panel && event->type() == QEvent::Resize;
-        const bool rewritten = watched == text && event->type() == QEvent::LayoutRequest;
-        if (resized || rewritten || event->type() == QEvent::Show) {
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest ||
+            event->type() == QEvent::Show) {
             text->resize(panel->width(), text->heightForWidth(panel->width()));
         }
         return false;

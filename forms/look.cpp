@@ -109,12 +109,19 @@ void ScaleFont(QWidget* control, double scale, QFont::Weight weight) {
     control->setFont(font);
 }
 
+// A notice with colours of its own keeps the icon as it was drawn, dark.
+Drawing DrawingOf(const QLabel* label) {
+    const bool ownColours = label->parent()->property(kRoleProperty).toString() == u"warning";
+    return ownColours ? Drawing::AsFiled : Drawing::Inked;
+}
+
 void DressLabels(QWidget* form) {
     for (QLabel* label : form->findChildren<QLabel*>()) {
         const QString ink = label->property(kInkProperty).toString();
         if (!ink.isEmpty()) {
-            label->setPixmap(InkIcon(ink).pixmap(QSize(kLabelIconSize, kLabelIconSize),
-                                                 form->devicePixelRatioF()));
+            const QIcon icon = SvgIcon(IconFile(ink), DrawingOf(label));
+            label->setPixmap(
+                icon.pixmap(QSize(kLabelIconSize, kLabelIconSize), form->devicePixelRatioF()));
         }
     }
 }

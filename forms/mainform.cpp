@@ -17,7 +17,9 @@ constexpr int kListRefreshInterval = 60000; // milliseconds
 constexpr int kUpdateDelay = 6000;          // likewise
 constexpr int kTwipsPerPoint = 20;
 constexpr int kPointsPerInch = 72;
-constexpr int kSuggestionRows = 8; // shown at once under the category box
+constexpr QSize kIconSize(256, 256); // pixels of the window's icon, which the desktop scales
+constexpr int kSuggestionRows = 8;   // shown at once under the category box, at most
+constexpr int kSuggestionGap = 4;    // between them, pixels
 
 // What the columns hold at their widest, apart from the one that takes the rest.
 constexpr char kWidestReference[] = "WWW-0000";
@@ -39,6 +41,7 @@ MainForm::MainForm()
     tmrListRefresh->setInterval(kListRefreshInterval);
     tmrUpdate->setInterval(kUpdateDelay);
     DressForm(this);
+    setWindowIcon(DrawPicture("program", kIconSize, 1));
     for (QLabel* picture : imgStep) {
         picture->setPixmap(imgToDoStep->pixmap());
     }
@@ -116,7 +119,7 @@ void MainForm::showEvent(QShowEvent* event) {
 bool MainForm::eventFilter(QObject* watched, QEvent* event) {
     if (watched == fraZone && event->type() == QEvent::Show) {
         PlaceSuggestions();
-    } else if (watched == fraDetail && event->type() == QEvent::Resize && fraZone->isVisible()) {
+    } else if (watched == fraDetail && event->type() == QEvent::Resize) {
         PlaceSuggestions();
     } else if (watched == fraFields && event->type() == QEvent::LayoutRequest) {
         AlignLabels();
@@ -216,14 +219,21 @@ void MainForm::SetUpSuggestions() {
     auto* inside = new QVBoxLayout(fraZone);
     inside->setContentsMargins(1, 1, 1, 1);
     inside->addWidget(lstZone);
+    lstZone->setSpacing(kSuggestionGap / 2);
     fraZone->installEventFilter(this);
+    connect(lstZone->model(), &QAbstractItemModel::rowsInserted, this, &MainForm::PlaceSuggestions);
 }
 
 // Right under the category box, as wide as it.
 void MainForm::PlaceSuggestions() {
+    if (!fraZone->isVisible()) {
+        return;
+    }
     const QWidget* box = txtZone->isVisible() ? txtZone : txtMLFields_2;
     const QPoint corner = box->mapTo(fraDetail, QPoint(0, box->height()));
-    const int height = kSuggestionRows * (lstZone->fontMetrics().height() + 6);
+    const int rows = std::clamp(lstZone->count(), 1, kSuggestionRows);
+    const int height =
+        rows * (lstZone->fontMetrics().height() + kSuggestionGap) + 2 * kSuggestionGap;
     fraZone->setGeometry(corner.x(), corner.y() + 1, box->width(),
                          std::min(height, fraDetail->height() - corner.y() - 2));
     fraZone->raise();

@@ -104,6 +104,16 @@ TEST(EditorTest, SuggestionsOpenUnderTheCategoryBox) {
     EXPECT_FALSE(main.lstZone->hasFocus()) << "the box being typed in keeps the focus";
 }
 
+TEST(EditorTest, TextOfAnotherLanguageIsAsHighAsItNeeds) {
+    MainForm main;
+    main.show();
+    main.fraLangAssist->show();
+    main.lblToTranslate->setText(QString("Solid oak dining table. ").repeated(30));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(main.lblToTranslate->width(), main.shpLangAssist->width());
+    EXPECT_GT(main.lblToTranslate->height(), main.shpLangAssist->height());
+}
+
 TEST(DropZoneTest, OnlyAcceptedLocalFilesMayBeDropped) {
     DropZone zone;
     QStringList asked;
