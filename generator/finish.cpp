@@ -17,7 +17,7 @@
 #include "platform/dates.h"
 #include "platform/events.h"
 #include "publish/abort.h"
-#include "publish/md5control.h"
+#include "publish/md5.h"
 #include "publish/steps.h"
 #include "store/corpinfo.h"
 #include "store/taggedtext.h"

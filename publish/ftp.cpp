@@ -1,12 +1,199 @@
 #include "publish/ftp.h"
 
 #include "core/flavour.h"
+#include "core/settings.h"
+#include "forms/mainform.h"
+#include "generator/transforms.h"
 #include "platform/dialogs.h"
+#include "platform/events.h"
+#include "platform/fileops.h"
+#include "platform/transfer.h"
+#include "publish/abort.h"
+#include "publish/md5control.h"
 #include "publish/steps.h"
 
-bool SendFiles(std::vector<OutputFile>& /*files*/) {
+#include <QFile>
+
+int FTPLastState = 0;
+QString FTPLastError;
+
+namespace {
+
+constexpr int kRequestTimeout = 20; // seconds
+constexpr char kAnonymous[] = "anonymous";
+constexpr char kStagingFile[] = "kpfftp.tmp"; // in the store's folder
+constexpr int kCurrentTask = 0;               // the bar of the task now running
+
+TransferClient* client = nullptr;
+
+void OnFTPStateChanged(int state) {
+    FTPLastState = state;
+    if (state == kStateError) {
+        FTPLastError = ineFTPSend().ResponseInfo();
+    }
+}
+
+// The box for whatever fails outside the server's own answers.
+void TellConnectFailure() {
+    MsgBox("Se produjo un error al intentar conectar con el servidor FTP '" + FTPServer +
+               "'.\n Asegúrese que la configuración es la correcta.",
+           BoxIcon::Warning, AppName);
+}
+
+bool OpenRemoteFolder() {
+    return ExecuteFTPCommand("CD " + FTPPath) ||
+           (ExecuteFTPCommand("MKDIR " + FTPPath) && ExecuteFTPCommand("CD " + FTPPath));
+}
+
+// Highest index of the data: what the progress of a file counts as, on purpose one byte less than
+// is sent.
+double CountedBytes(const OutputFile& file) {
+    return double(file.Data.size()) - 1;
+}
+
+// Returns the bytes that will be counted.
+double MarkChangedFiles(std::vector<OutputFile>& files) {
+    double total = 0;
+    for (OutputFile& file : files) {
+        file.SendNow = !IsFileUnchanged(file.Name, file.Md5);
+        if (file.SendNow) {
+            total += CountedBytes(file);
+        }
+    }
+    return total;
+}
+
+// The staging file is neither emptied nor removed first: what a stopped publish left behind the new
+// content goes along, as it always has.
+void Stage(const QByteArray& data) {
+    QFile staging(DBpath + kStagingFile);
+    if (!staging.open(QIODevice::ReadWrite) || staging.write(data) != data.size()) {
+        throw std::runtime_error("No se puede escribir el fichero " +
+                                 (DBpath + kStagingFile).toStdString());
+    }
+}
+
+void Unstage() {
+    if (QFile::exists(DBpath + kStagingFile)) {
+        FileOperation(FileOp::Delete, {DBpath + kStagingFile}, {});
+    }
+}
+
+void ShowRemaining(double sent, double total) {
+    frmMain->lblRemaining->setText(TimeRemaining(sent, total));
+}
+
+void TellTransferFailure(const QString& name) {
+    MsgBox("Error al enviar el archivo" + name + ". " + ineFTPSend().ResponseInfo() + " (" +
+               QString::number(ineFTPSend().ResponseCode()) + ").",
+           BoxIcon::Information, AppName);
+}
+
+enum class Sent { Yes, Retry, Stop };
+
+// One file to its end. It is recorded before the outcome is looked at: a failed file counts as
+// sent.
+Sent SendFile(const OutputFile& file, double sent, double total) {
+    const QString name = TrimBlanks(file.Name);
+    frmMain->lblInfo->setText("Enviando " + name);
+    Stage(file.Data);
+    ineFTPSend().Execute("PUT \"" + DBpath + kStagingFile + "\" \"" + name + "\"");
+    while (ineFTPSend().StillExecuting()) {
+        WaitForEvents();
+        ShowRemaining(sent, total);
+    }
+    RecordFileSent(file.Name, file.Md5);
+    if (FTPLastState == kStateCompleted) {
+        return Sent::Yes;
+    }
+    if (ineFTPSend().ResponseCode() == kErrConnectionReset) {
+        CloseFTP();
+        if (ConnectFTP()) {
+            return Sent::Retry;
+        }
+        StepFailed();
+        return Sent::Stop;
+    }
     StepFailed();
-    MsgBox("Esta versión todavía no envía por FTP: publique en una carpeta local.",
+    TellTransferFailure(name);
+    return Sent::Stop;
+}
+
+} // namespace
+
+bool SendFiles(std::vector<OutputFile>& files) {
+    if (!ConnectFTP()) {
+        StepFailed();
+        return false;
+    }
+    NextStep();
+    return SendChangedFiles(files);
+}
+
+bool ConnectFTP() {
+    try {
+        ineFTPSend().SetServer(FTPServer, FTPUser.isEmpty() ? kAnonymous : FTPUser, FTPPass);
+        ineFTPSend().SetRequestTimeout(kRequestTimeout);
+        if (OpenRemoteFolder()) {
+            return true;
+        }
+    } catch (const std::exception&) {
+        TellConnectFailure();
+        return false;
+    }
+    MsgBox("Error al conectar con el servidor FTP '" + FTPServer + "'. " + FTPLastError,
            BoxIcon::Warning, AppName);
     return false;
+}
+
+bool ExecuteFTPCommand(const QString& command) {
+    ineFTPSend().Execute(command);
+    while (ineFTPSend().StillExecuting()) {
+        WaitForEvents();
+    }
+    return FTPLastState == kStateCompleted;
+}
+
+bool SendChangedFiles(std::vector<OutputFile>& files) {
+    const double total = MarkChangedFiles(files);
+    double sent = 0;
+    ResetTimeRemaining();
+    for (std::size_t i = 0; i < files.size() && !AbortPublish;) {
+        SetProgress(static_cast<int>(i), static_cast<int>(files.size()) - 1, 0, kCurrentTask);
+        const OutputFile& file = files[i];
+        if (file.SendNow && !TrimBlanks(file.Name).isEmpty()) {
+            const Sent outcome = SendFile(file, sent, total);
+            if (outcome == Sent::Stop) {
+                return true;
+            }
+            Unstage();
+            sent += CountedBytes(file); // of a file that is tried again, each time
+            ShowRemaining(sent, total);
+            i -= outcome == Sent::Retry ? 1 : 0;
+        }
+        ++i;
+        DoEvents();
+    }
+    CloseFTP();
+    if (AbortPublish) {
+        return false;
+    }
+    StepDone();
+    return true;
+}
+
+void CloseFTP() {
+    if (ineFTPSend().StillExecuting()) {
+        ineFTPSend().Cancel();
+    }
+    ineFTPSend().Execute("CLOSE");
+}
+
+TransferClient& ineFTPSend() {
+    if (client == nullptr) {
+        client = new TransferClient(frmMain);
+        QObject::connect(client, &TransferClient::StateChanged, client, OnFTPStateChanged);
+        QObject::connect(client, &QObject::destroyed, [] { client = nullptr; });
+    }
+    return *client;
 }

@@ -1,12 +1,35 @@
-// Bringing the generated files of one publish to an FTP server: only those that differ from what
-// was last sent.
+// Bringing the generated files of one publish to an FTP server: connects, makes sure the folder
+// exists, and sends each changed file through a staging file in the store's folder.
 #pragma once
 
 #include "generator/outputs.h"
 
+#include <QString>
 #include <vector>
 
-// Connects, opens the remote folder and sends. False when the connection failed or the run was
-// cancelled; a failed transfer counts as sent (the step list shows it), since the workflow has
-// always recorded it so.
+class TransferClient;
+
+extern int FTPLastState; // last state the client reported; 12: the last command finished without
+                         // error. 0 at start
+extern QString FTPLastError; // the server's text of the last error reported
+
+// The entry point of a publish. False when the connection failed or the run was cancelled. A failed
+// transfer counts as success, since the workflow has always recorded it so: the step list alone
+// shows it.
 bool SendFiles(std::vector<OutputFile>& files);
+
+// Logs in and opens FTPPath, making its last level if it is missing. False after a box with the
+// reason.
+bool ConnectFTP();
+
+// Runs one command to its end; true if it finished without error.
+bool ExecuteFTPCommand(const QString& command);
+
+// Marks what differs from the control file and sends it. False only when cancelled.
+bool SendChangedFiles(std::vector<OutputFile>& files);
+
+// Ends the session without waiting; a command under way is abandoned.
+void CloseFTP();
+
+// The main form's client for sending; lives as long as that form.
+TransferClient& ineFTPSend();

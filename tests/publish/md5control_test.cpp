@@ -1,51 +1,108 @@
 #include "publish/md5control.h"
 
-#include <QCryptographicHash>
+#include "core/settings.h"
+
+#include <QDir>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-// Bytes 3, 10, 17, ... modulo 256.
-QByteArray Sample(int size) {
-    QByteArray data(size, '\0');
-    for (int i = 0; i < size; ++i) {
-        data[i] = static_cast<char>(i * 7 + 3);
-    }
-    return data;
-}
+const QByteArray kHashA(32, 'a');
+const QByteArray kHashB(32, 'b');
 
-QByteArray StandardHash(const QByteArray& data) {
-    return QCryptographicHash::hash(data, QCryptographicHash::Md5).toHex();
-}
+// A store's folder of its own, with or without a control file.
+class ControlFile : public testing::Test {
+protected:
+    void SetUp() override {
+        SetStoreFolder(folder.path() + "/");
+        ResetControlFile();
+    }
+
+    void Write(const QByteArray& bytes) {
+        QFile file(Path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QByteArray Bytes() const {
+        QFile file(Path());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    static QByteArray Record(const QByteArray& name, const QByteArray& hash) {
+        return name.leftJustified(60, ' ') + hash + "\r\n";
+    }
+
+    QString Path() const { return folder.path() + "/md5control.txt"; }
+
+    QTemporaryDir folder;
+};
 
 } // namespace
 
-TEST(MD5Bytes, IsTheStandardHashOfAllButTheLastByteWhilePaddingIsStandard) {
-    for (int size : {1, 2, 55, 56, 58, 60, 64, 65, 120, 129, 184}) {
-        EXPECT_EQ(MD5Bytes(Sample(size)), StandardHash(Sample(size - 1))) << size << " bytes";
-    }
+TEST_F(ControlFile, IsCreatedOnFirstUseAndEverythingCountsAsChanged) {
+    EXPECT_FALSE(IsFileUnchanged("index.html", kHashA));
+    EXPECT_EQ(Bytes(), "");
 }
 
-TEST(MD5Bytes, KeepsTheOldPaddingWhereExistingControlFilesHoldIt) {
-    // From a second, independent implementation: no padding at 56, none beyond it past 120.
-    const struct {
-        int size;
-        const char* hash;
-    } kCases[] = {
-        {57, "30e31e588d28a25fdbe827c7d37aa308"},  {121, "74a2f863f34aa0b7b01e4a82a27509f8"},
-        {122, "50759334b3bf8eb0be84c8f3fed4b75b"}, {128, "fa8c225369080a7fc683da254b7884fc"},
-        {190, "d671da08ef6fddeb369ddc079292dd74"},
-    };
-    for (const auto& expected : kCases) {
-        EXPECT_EQ(MD5Bytes(Sample(expected.size)), expected.hash) << expected.size << " bytes";
-    }
+TEST_F(ControlFile, KeepsEachFileSentAtOnce) {
+    RecordFileSent("index.html ", kHashA);
+    RecordFileSent("año.html", kHashB);
+    EXPECT_EQ(Bytes(), Record("index.html", kHashA) + Record("a\xF1o.html", kHashB));
+    EXPECT_TRUE(IsFileUnchanged("index.html", kHashA));
+    EXPECT_FALSE(IsFileUnchanged("index.html", kHashB));
+    EXPECT_FALSE(IsFileUnchanged("INDEX.HTML", kHashA));
 }
 
-TEST(MD5Bytes, DoesNotSeeAChangeOfTheLastByte) {
-    QByteArray data = Sample(200);
-    const QByteArray before = MD5Bytes(data);
-    data.back() = 'x';
-    EXPECT_EQ(MD5Bytes(data), before);
-    data[198] = 'x';
-    EXPECT_NE(MD5Bytes(data), before);
+TEST_F(ControlFile, UpdatesTheRecordOfAKnownName) {
+    Write(Record("a.html", kHashA) + Record("b.html", kHashA));
+    RecordFileSent("b.html", kHashB);
+    EXPECT_EQ(Bytes(), Record("a.html", kHashA) + Record("b.html", kHashB));
+}
+
+TEST_F(ControlFile, ReadsWholeRecordsOnly) {
+    Write(Record("a.html", kHashA) + Record("b.html", kHashA).left(70));
+    EXPECT_TRUE(IsFileUnchanged("a.html", kHashA));
+    EXPECT_FALSE(IsFileUnchanged("b.html", kHashA));
+}
+
+TEST_F(ControlFile, NeverMatchesANameOfMoreThanSixtyCharacters) {
+    const QString name = QString(61, u'n');
+    RecordFileSent(name, kHashA);
+    EXPECT_FALSE(IsFileUnchanged(name, kHashA));
+    RecordFileSent(name, kHashA);
+    EXPECT_EQ(Bytes().size(), 2 * 94);
+}
+
+// Updating a known entry drops the later ones from memory when the next new name comes; they stay in the file.
+TEST_F(ControlFile, ForgetsLaterEntriesAfterAnUpdateAndAppendsThemAgain) {
+    Write(Record("a.html", kHashA) + Record("b.html", kHashA) + Record("c.html", kHashA));
+    RecordFileSent("a.html", kHashB);
+    RecordFileSent("new.html", kHashB);
+    EXPECT_FALSE(IsFileUnchanged("c.html", kHashA));
+    RecordFileSent("c.html", kHashB);
+    EXPECT_EQ(Bytes(), Record("a.html", kHashB) + Record("b.html", kHashA) +
+                           Record("c.html", kHashA) + Record("new.html", kHashB) +
+                           Record("c.html", kHashB));
+    ResetControlFile();
+    EXPECT_TRUE(IsFileUnchanged("c.html", kHashA));
+    EXPECT_TRUE(IsFileUnchanged("c.html", kHashB));
+}
+
+// After a load of n records the first new entry takes index n + 1 of the table but record n of the file, so that its update
+// writes behind the end of the file.
+TEST_F(ControlFile, UpdatesByTableIndexEvenWhereRecordNumbersHaveParted) {
+    Write(Record("a.html", kHashA));
+    RecordFileSent("new.html", kHashA);
+    RecordFileSent("new.html", kHashB);
+    const QByteArray bytes = Bytes();
+    EXPECT_EQ(bytes.left(188), Record("a.html", kHashA) + Record("new.html", kHashA));
+    EXPECT_EQ(bytes.mid(188), Record("new.html", kHashB));
+}
+
+TEST_F(ControlFile, RaisesAnErrorForTheUserWhenItCannotBeOpened) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir("md5control.txt"));
+    EXPECT_THROW(IsFileUnchanged("a.html", kHashA), std::runtime_error);
 }

@@ -1,0 +1,118 @@
+#include "platform/curlloop.h"
+
+#include <QSocketNotifier>
+#include <QTimer>
+#include <mutex>
+
+namespace {
+
+void InitialiseOnce() {
+    static std::once_flag flag;
+    std::call_once(flag, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
+}
+
+} // namespace
+
+CurlLoop::CurlLoop(QObject* parent) : QObject(parent), timer(new QTimer(this)) {
+    InitialiseOnce();
+    multi = curl_multi_init();
+    curl_multi_setopt(multi, CURLMOPT_SOCKETFUNCTION, OnSocket);
+    curl_multi_setopt(multi, CURLMOPT_SOCKETDATA, this);
+    curl_multi_setopt(multi, CURLMOPT_TIMERFUNCTION, OnTimer);
+    curl_multi_setopt(multi, CURLMOPT_TIMERDATA, this);
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, [this] { Act(CURL_SOCKET_TIMEOUT, 0); });
+}
+
+CurlLoop::~CurlLoop() {
+    for (const auto& [easy, finished] : running) {
+        curl_multi_remove_handle(multi, easy);
+    }
+    curl_multi_cleanup(multi);
+}
+
+void CurlLoop::Start(CURL* easy, std::function<void(CURLcode)> finished) {
+    running[easy] = std::move(finished);
+    curl_multi_add_handle(multi, easy);
+}
+
+void CurlLoop::Remove(CURL* easy) {
+    if (running.erase(easy) > 0) {
+        curl_multi_remove_handle(multi, easy);
+    }
+}
+
+int CurlLoop::OnSocket(CURL* /*easy*/, curl_socket_t socket, int what, void* self,
+                       void* /*socketData*/) {
+    static_cast<CurlLoop*>(self)->WatchSocket(socket, what);
+    return 0;
+}
+
+int CurlLoop::OnTimer(CURLM* /*multi*/, long milliseconds, void* self) {
+    QTimer* timer = static_cast<CurlLoop*>(self)->timer;
+    if (milliseconds < 0) {
+        timer->stop();
+    } else {
+        timer->start(static_cast<int>(milliseconds));
+    }
+    return 0;
+}
+
+void CurlLoop::WatchSocket(curl_socket_t socket, int what) {
+    // The notifier that called may be the one that goes, so it is left to the event loop to free.
+    const auto drop = [](std::unique_ptr<QSocketNotifier>& notifier) {
+        if (notifier) {
+            notifier->setEnabled(false);
+            notifier.release()->deleteLater();
+        }
+    };
+    Watch& watch = watches[socket];
+    const bool reads = what == CURL_POLL_IN || what == CURL_POLL_INOUT;
+    const bool writes = what == CURL_POLL_OUT || what == CURL_POLL_INOUT;
+    if (!reads) {
+        drop(watch.read);
+    } else if (!watch.read) {
+        watch.read = MakeNotifier(socket, false);
+    }
+    if (!writes) {
+        drop(watch.write);
+    } else if (!watch.write) {
+        watch.write = MakeNotifier(socket, true);
+    }
+    if (what == CURL_POLL_REMOVE) {
+        watches.erase(socket);
+    }
+}
+
+std::unique_ptr<QSocketNotifier> CurlLoop::MakeNotifier(curl_socket_t socket, bool forWriting) {
+    auto notifier = std::make_unique<QSocketNotifier>(socket, forWriting ? QSocketNotifier::Write
+                                                                         : QSocketNotifier::Read);
+    const int events = forWriting ? CURL_CSELECT_OUT : CURL_CSELECT_IN;
+    connect(notifier.get(), &QSocketNotifier::activated, this,
+            [this, socket, events] { Act(socket, events); });
+    return notifier;
+}
+
+void CurlLoop::Act(curl_socket_t socket, int events) {
+    int left = 0;
+    curl_multi_socket_action(multi, socket, events, &left);
+    CollectFinished();
+}
+
+void CurlLoop::CollectFinished() {
+    int queued = 0;
+    while (const CURLMsg* message = curl_multi_info_read(multi, &queued)) {
+        if (message->msg != CURLMSG_DONE) {
+            continue;
+        }
+        CURL* easy = message->easy_handle;
+        const CURLcode result = message->data.result;
+        const auto entry = running.find(easy);
+        if (entry == running.end()) {
+            continue;
+        }
+        const auto finished = std::move(entry->second);
+        Remove(easy);
+        finished(result);
+    }
+}

@@ -1,0 +1,46 @@
+// Transfers of libcurl inside the event loop: one multi handle with its connection cache, driven by
+// socket notifiers and a timer, so that a transfer costs no waiting and no thread.
+#pragma once
+
+#include <QObject>
+#include <curl/curl.h>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+class QSocketNotifier;
+class QTimer;
+
+class CurlLoop : public QObject {
+    Q_OBJECT
+
+public:
+    explicit CurlLoop(QObject* parent = nullptr);
+    ~CurlLoop() override;
+
+    // Starts a prepared handle; `finished` is called once from the event loop when it has ended by
+    // itself. The handle stays the caller's, who removes it before freeing it.
+    void Start(CURL* easy, std::function<void(CURLcode)> finished);
+
+    // Takes a handle out, running or not; a transfer under way is abandoned with its connection.
+    void Remove(CURL* easy);
+
+private:
+    struct Watch {
+        std::unique_ptr<QSocketNotifier> read;
+        std::unique_ptr<QSocketNotifier> write;
+    };
+
+    static int OnSocket(CURL* easy, curl_socket_t socket, int what, void* self, void* socketData);
+    static int OnTimer(CURLM* multi, long milliseconds, void* self);
+
+    void WatchSocket(curl_socket_t socket, int what);
+    std::unique_ptr<QSocketNotifier> MakeNotifier(curl_socket_t socket, bool forWriting);
+    void Act(curl_socket_t socket, int events);
+    void CollectFinished();
+
+    CURLM* multi;
+    QTimer* timer;
+    std::unordered_map<curl_socket_t, Watch> watches;
+    std::unordered_map<CURL*, std::function<void(CURLcode)>> running;
+};
