@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr QChar kSameInAll = '=';
+
 QStringList Columns(const QString& line) {
     QStringList columns;
     for (const QString& column : line.split('|')) {
@@ -14,6 +16,18 @@ QStringList Columns(const QString& line) {
 
 bool IsRow(const QString& line) {
     return !line.trimmed().isEmpty() && !line.startsWith('#');
+}
+
+// The columns of a row below the first; of a word for all languages as many as there are languages.
+QStringList RowColumns(const QString& line, qsizetype width) {
+    if (!line.startsWith(kSameInAll)) {
+        return Columns(line);
+    }
+    QStringList row = Columns(line.mid(1));
+    if (row.size() == 2) {
+        row += QStringList(qMax(qsizetype(0), width - 2), row.last());
+    }
+    return row;
 }
 
 bool CheckRow(const QStringList& row, qsizetype width, const SourcePlace& place,
@@ -42,11 +56,12 @@ WordSection ReadWordTable(const SourceText& table, const SourcePlace& wanted, Pa
         if (!IsRow(line.text)) {
             continue;
         }
-        const QStringList row = Columns(line.text);
+        const qsizetype width = qsizetype(columns.size());
+        const QStringList row = RowColumns(line.text, width);
         if (columns.empty()) {
             languages = row.mid(1);
             columns.resize(std::size_t(row.size()));
-        } else if (CheckRow(row, qsizetype(columns.size()), line.place, report)) {
+        } else if (CheckRow(row, width, line.place, report)) {
             for (qsizetype i = 0; i < row.size(); ++i) {
                 columns[std::size_t(i)] += row[i];
             }

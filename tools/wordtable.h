@@ -12,6 +12,6 @@ struct WordSection {
 };
 
 // The first line has the language codes behind its first column. Empty lines and such as begin with
-// "#" don't count. Errors: lines with another number of columns, columns with a "#", no tag, no
+// "#" don't count; a line that begins with "=" has one word for all languages. Errors: lines with another number of columns, columns with a "#", no tag, no
 // language.
 WordSection ReadWordTable(const SourceText& table, const SourcePlace& wanted, PackReport& report);

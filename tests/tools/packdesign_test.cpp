@@ -95,6 +95,7 @@ TEST(PackDesign, WhatIsPackedIsWhatTheProgramReads) {
                                    "kind = product-picture\n"
                                    "name = p%%PICTUREID%%.jpg\n"
                                    "params = RESIZE=4X3;\n");
+    design.Write("words.txt", kWords + "=%%TEL%% | Tel.\n");
     design.Write("home.html", kHome + "<!--#include pie.html-->\nfin");
     design.Write("pie.html", "\xEF\xBB\xBF"
                              "año €\r\n");
@@ -113,7 +114,8 @@ TEST(PackDesign, WhatIsPackedIsWhatTheProgramReads) {
         EXPECT_EQ(SectionBodies[0], "<head><meta charset=\"windows-1252\"></head>\r\n"
                                     "a\xF1o \x80\r\nfin");
         EXPECT_EQ(TemplateSections[1].Name.trimmed(), "ES|EN");
-        EXPECT_EQ(SectionBodies[1], "%%ACONSULTAR%%#%SI%#%NO%|Consultar#S\xED#No|Ask#Yes#");
+        EXPECT_EQ(SectionBodies[1], "%%ACONSULTAR%%#%SI%#%NO%#%%TEL%%|Consultar#S\xED#No#Tel."
+                                    "|Ask#Yes##Tel.");
         EXPECT_EQ(TemplateSections[3].Params.trimmed(), "START=6;MIDDLE=23;END=7;X=1;");
         EXPECT_EQ(SplitSectionBody(3).middle, "<li>%%SALEZONE%%</li>\r\n");
         EXPECT_EQ(SplitSectionBody(3).tail, "</ul>\r\n");
