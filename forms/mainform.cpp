@@ -109,17 +109,17 @@ void MainForm::closeEvent(QCloseEvent* event) {
 }
 
 void MainForm::showEvent(QShowEvent* event) {
-    if (!event->spontaneous() && !tmrUpdate->property("started").toBool()) {
-        tmrUpdate->setProperty("started", true);
+    if (!shownBefore) {
+        shownBefore = true;
         tmrUpdate->start();
     }
     QMainWindow::showEvent(event);
 }
 
 bool MainForm::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == fraZone && event->type() == QEvent::Show) {
-        PlaceSuggestions();
-    } else if (watched == fraDetail && event->type() == QEvent::Resize) {
+    const bool suggestionsMove = (watched == fraZone && event->type() == QEvent::Show) ||
+                                 (watched == fraDetail && event->type() == QEvent::Resize);
+    if (suggestionsMove) {
         PlaceSuggestions();
     } else if (watched == fraFields && event->type() == QEvent::LayoutRequest) {
         AlignLabels();

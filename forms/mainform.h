@@ -96,6 +96,8 @@ private:
     void SetUpSuggestions();
     void AlignLabels();
     void PlaceSuggestions();
+
+    bool shownBefore = false;
 };
 
 // The one main form: set by its constructor, cleared by its destructor.
