@@ -5,6 +5,7 @@
 #include "core/settings.h"
 #include "core/vocabulary.h"
 #include "details/assistance.h"
+#include "details/corpinfodialog.h"
 #include "details/languages.h"
 #include "editor/about.h"
 #include "editor/actions.h"
@@ -76,6 +77,13 @@ void OpenConfig(int page) {
     RefreshPublishTab(true);
 }
 
+void OpenCorpInfo(int page) {
+    const QString lang = UICurrentLang;
+    SaveCurrentProduct();
+    ShowCorpInfo(page);
+    ReturnToLanguage(lang);
+}
+
 void ConnectTabs() {
     for (int tab = 0; tab < static_cast<int>(frmMain->lblTab.size()); ++tab) {
         const auto select = [tab] { SelectMainTab(tab); };
@@ -89,6 +97,10 @@ void ConnectMenus() {
     for (int page = 0; page < static_cast<int>(frmMain->mnuConfig.size()); ++page) {
         QObject::connect(frmMain->mnuConfig[page], &QAction::triggered, frmMain,
                          [page] { OpenConfig(page); });
+    }
+    for (int page = 0; page < static_cast<int>(frmMain->mnuCorpInfo.size()); ++page) {
+        QObject::connect(frmMain->mnuCorpInfo[page], &QAction::triggered, frmMain,
+                         [page] { OpenCorpInfo(page); });
     }
     const auto openDesigns = [] { OpenConfig(kPageDesign); };
     const auto openHosting = [] { OpenConfig(kPageHosting); };

@@ -9,30 +9,48 @@ namespace {
 
 constexpr char kCorpInfoStatement[] = "SELECT * FROM CorpInfo";
 
+// Calls `visit` with each column's name and its place in the record, in the order of the table.
+template <class Visit> void ForEachField(CorpInfoRecord& record, Visit visit) {
+    visit("Name", record.Name);
+    visit("CIF", record.CIF);
+    visit("Phone", record.Phone);
+    visit("Fax", record.Fax);
+    visit("Cellular", record.Cellular);
+    visit("Address", record.Address);
+    visit("PostalCode", record.PostalCode);
+    visit("Zone", record.Zone);
+    visit("CorpLogo", record.CorpLogo);
+    visit("ExtraPicture", record.ExtraPicture);
+    visit("ContactEmail", record.ContactEmail);
+    visit("FindUsMap", record.FindUsMap);
+    for (int line = 0; line < kRegisterLines; ++line) {
+        visit(QStringLiteral("MRinfo%1").arg(line), record.MRinfo[line]);
+    }
+    visit("LastUpdate", record.LastUpdate);
+}
+
 } // namespace
 
 void LoadCorpInfo() {
     RunQuery(kCursorScratch, kCorpInfoStatement);
-    Recordset& row = adcData[kCursorScratch];
-    CorpInfoRecord record;
+    const Recordset& row = adcData[kCursorScratch];
+    CorpInfoData = {};
     if (row.HasRow()) {
-        record.Name = row.Text(u"Name");
-        record.CIF = row.Text(u"CIF");
-        record.Phone = row.Text(u"Phone");
-        record.Fax = row.Text(u"Fax");
-        record.Cellular = row.Text(u"Cellular");
-        record.Address = row.Text(u"Address");
-        record.PostalCode = row.Text(u"PostalCode");
-        record.Zone = row.Text(u"Zone");
-        record.CorpLogo = row.Text(u"CorpLogo");
-        record.ExtraPicture = row.Text(u"ExtraPicture");
-        record.ContactEmail = row.Text(u"ContactEmail");
-        record.FindUsMap = row.Text(u"FindUsMap");
-        for (int line = 0; line < kRegisterLines; ++line) {
-            record.MRinfo[line] = row.Text(QStringLiteral("MRinfo%1").arg(line));
-        }
-        record.LastUpdate = row.Text(u"LastUpdate");
+        ForEachField(CorpInfoData,
+                     [&row](const QString& column, QString& value) { value = row.Text(column); });
     }
-    CorpInfoData = record;
     LoadShowAPIlogo();
+}
+
+void SaveCorpInfo(const CorpInfoRecord& record) {
+    CorpInfoData = record;
+    RunQuery(kCursorScratch, kCorpInfoStatement);
+    Recordset& row = adcData[kCursorScratch];
+    if (!row.HasRow()) {
+        row.AddNew();
+    }
+    ForEachField(CorpInfoData,
+                 [&row](const QString& column, QString& value) { row.Set(column, value); });
+    row.Update();
+    WaitForCursor(row);
 }

@@ -20,3 +20,6 @@ extern CorpInfoRecord CorpInfoData; // loaded at start and after each save
 
 // Reads the row (a Null is empty) through cursor 1, and the setting ShowAPIlogo.
 void LoadCorpInfo();
+
+// Makes `record` the one in memory and writes it to the row, through cursor 1.
+void SaveCorpInfo(const CorpInfoRecord& record);
