@@ -37,56 +37,48 @@ void ReadFieldDefs(FieldSources& sources, Recordset& rows) {
     }
 }
 
+// The definitions of a table; nullptr if it has none. Names of tables go without regard to case.
+FieldSources::TextTable* FindTextTable(FieldSources& sources, QStringView name) {
+    for (FieldSources::TextTable& table : sources.TextTables) {
+        if (name.compare(table.Name, Qt::CaseInsensitive) == 0) {
+            return &table;
+        }
+    }
+    return nullptr;
+}
+
 void ReadLangFieldDefs(FieldSources& sources, Recordset& rows) {
     rows.SetFilter({});
     for (rows.MoveFirst(); rows.HasRow(); rows.MoveNext()) {
-        const QString key = rows.Text(u"FieldName").toUpper();
-        sources.LangDefs.push_back(
-            {rows.Text(u"TableName"), rows.Integer(u"FieldDefId"), key, KeyTag(key)});
-    }
-}
-
-// Texts of all choices of a definition in one language.
-const QStringList& ChoiceTexts(FieldDef& def, const QString& lang) {
-    auto known = def.ChoiceTexts.find(lang);
-    if (known == def.ChoiceTexts.end()) {
-        QStringList texts;
-        for (int choice = 0; choice <= def.Choices.count(u'|'); ++choice) {
-            texts.append(TaggedText(def.Choices, lang, choice));
+        const QString name = rows.Text(u"TableName");
+        FieldSources::TextTable* table = FindTextTable(sources, name);
+        if (table == nullptr) {
+            table = &sources.TextTables.emplace_back(FieldSources::TextTable{name, {}});
         }
-        known = def.ChoiceTexts.insert(lang, texts);
-    }
-    return *known;
-}
-
-// Fills in what a stored value means under its definition.
-void ShowStoredValue(FieldItem& item, FieldDef& def, const QString& stored, const QString& lang) {
-    if (def.Type == u"B") {
-        item.Value = stored == u"1" ? u"%SI%"_s : u"%NO%"_s;
-    } else if (def.Type == u"O") {
-        item.RawValue = stored;
-        item.Value =
-            IsNumeric(stored) ? ChoiceTexts(def, lang).value(ChoiceNumber(stored)) : stored;
-    } else {
-        item.Value = stored;
+        const QString key = rows.Text(u"FieldName").toUpper();
+        table->Defs.push_back({rows.Integer(u"FieldDefId"), key, KeyTag(key)});
     }
 }
 
 FieldItem ReadFieldRow(FieldSources& sources, const QString& lang) {
     FieldItem item;
-    const QString stored = sources.Fields.Text(sources.FieldValueColumn);
+    item.Value = sources.Fields.Text(sources.FieldValueColumn);
     const qint64 id = CellInteger(sources.Fields.Value(sources.FieldIdColumn));
     const auto place = sources.DefById.constFind(id);
     if (place == sources.DefById.constEnd()) {
         item.Key = QString::number(id);
         item.Tag = KeyTag(item.Key);
-        item.Value = stored;
         return item;
     }
     FieldDef& def = sources.Defs[*place];
     item.Key = def.Key;
     item.Tag = def.Tag;
-    ShowStoredValue(item, def, stored, lang);
+    if (def.Type == u"B") {
+        item.Value = item.Value == u"1" ? u"%SI%"_s : u"%NO%"_s;
+    } else if (def.Type == u"O") {
+        item.Option = &def;
+        item.RawValue = std::exchange(item.Value, OptionText(def, item.Value, lang));
+    }
     return item;
 }
 
@@ -125,6 +117,39 @@ void CloseUpFields(FieldList& list) {
     }
 }
 
+void AppendQuoted(QString& filter, const QString& value) {
+    if (value.contains(u'\'')) {
+        filter += QuotedValue(value);
+    } else {
+        filter += u'\'';
+        filter += value;
+        filter += u'\'';
+    }
+}
+
+// Lets the texts of one item through, in all languages.
+void FilterTexts(FieldSources& sources, const QString& tableName, const QString& itemId) {
+    QString& filter = sources.Filter;
+    filter.resize(0);
+    filter += u"TableName = ";
+    AppendQuoted(filter, tableName);
+    filter += u" AND ItemId = ";
+    AppendQuoted(filter, itemId);
+    sources.LangFields.SetFilter(filter);
+}
+
+// Puts the text of the current row into its place in a list of its language.
+void TakeText(const FieldSources& sources, const FieldSources::TextTable& table, FieldList& list) {
+    const qint64 id = CellInteger(sources.LangFields.Value(sources.TextIdColumn));
+    for (size_t place = 0; place < list.size(); ++place) {
+        // The first row counts: a value is null only until it has been read.
+        if (table.Defs[place].Id == id && list[place].Value.isNull()) {
+            const QString value = sources.LangFields.Text(sources.TextValueColumn);
+            list[place].Value = value.isNull() ? QString("") : value;
+        }
+    }
+}
+
 // Narrows the value only when the text can hold the tag at all.
 void ReplaceItem(TagText& text, const FieldItem& item, EmptyShows empty) {
     if (text.MayHold(item.Tag)) {
@@ -138,6 +163,7 @@ void ReplaceItem(TagText& text, const FieldItem& item, EmptyShows empty) {
 FieldSources::FieldSources(SiteSnapshot& snapshot)
     : Fields(snapshot[kSnapProductFields]), LangFields(snapshot[kSnapLangFields]),
       FieldIdColumn(Fields.Column(u"FieldDefId")), FieldValueColumn(Fields.Column(u"FieldValue")),
+      TextLangColumn(LangFields.Column(u"LangCode")),
       TextIdColumn(LangFields.Column(u"FieldDefId")),
       TextValueColumn(LangFields.Column(u"FieldValue")) {
     ReadFieldDefs(*this, snapshot[kSnapFieldDefs]);
@@ -159,6 +185,16 @@ int ChoiceNumber(const QString& stored) {
     return fits ? static_cast<int>(number) : -1;
 }
 
+QString OptionText(FieldDef& def, const QString& stored, const QString& lang) {
+    const std::pair key(lang, stored);
+    auto known = def.Shown.constFind(key);
+    if (known == def.Shown.constEnd()) {
+        known = def.Shown.insert(
+            key, IsNumeric(stored) ? TaggedText(def.Choices, lang, ChoiceNumber(stored)) : stored);
+    }
+    return *known;
+}
+
 void LoadProductFields(FieldSources& sources, const QString& productId, const QString& lang,
                        int marker, FieldList& list) {
     list.clear();
@@ -171,29 +207,43 @@ void LoadProductFields(FieldSources& sources, const QString& productId, const QS
     }
 }
 
-void LoadLangFields(FieldSources& sources, const QString& itemId, const QString& tableName,
-                    const QString& lang, FieldList& list) {
-    list.clear();
-    std::vector<qint64> ids;
-    for (const FieldSources::LangFieldDef& def : sources.LangDefs) {
-        if (def.TableName.compare(tableName, Qt::CaseInsensitive) == 0) {
-            list.push_back({def.Key, {}, {}, def.Tag});
-            ids.push_back(def.Id);
+void TranslateFields(FieldList& list, const QString& lang) {
+    for (FieldItem& item : list) {
+        if (item.Option != nullptr) {
+            item.Value = OptionText(*item.Option, item.RawValue, lang);
         }
     }
+}
+
+void LoadLangFields(FieldSources& sources, const QString& itemId, const QString& tableName,
+                    const QStringList& langs, std::vector<FieldList>& lists) {
+    lists.resize(langs.size());
+    const FieldSources::TextTable* table = FindTextTable(sources, tableName);
+    for (FieldList& list : lists) {
+        list.clear();
+        for (size_t place = 0; table != nullptr && place < table->Defs.size(); ++place) {
+            list.push_back({table->Defs[place].Key, {}, {}, table->Defs[place].Tag});
+        }
+    }
+    if (table == nullptr) {
+        return;
+    }
     Recordset& rows = sources.LangFields;
-    rows.SetFilter(u"TableName = "_s + QuotedValue(tableName) + u" AND ItemId = "_s +
-                   QuotedValue(itemId) + u" AND LangCode = "_s + QuotedValue(lang));
-    for (; rows.HasRow(); rows.MoveNext()) {
-        const qint64 id = CellInteger(rows.Value(sources.TextIdColumn));
-        for (size_t place = 0; place < ids.size(); ++place) {
-            // The first row counts: a value is null only until it has been read.
-            if (ids[place] == id && list[place].Value.isNull()) {
-                const QString value = rows.Text(sources.TextValueColumn);
-                list[place].Value = value.isNull() ? QString("") : value;
+    for (FilterTexts(sources, tableName, itemId); rows.HasRow(); rows.MoveNext()) {
+        const QString lang = rows.Text(sources.TextLangColumn);
+        for (qsizetype place = 0; place < langs.size(); ++place) {
+            if (lang.compare(langs[place], Qt::CaseInsensitive) == 0) {
+                TakeText(sources, *table, lists[place]);
             }
         }
     }
+}
+
+FieldList LoadLangFields(FieldSources& sources, const QString& itemId, const QString& tableName,
+                         const QString& lang) {
+    std::vector<FieldList> lists;
+    LoadLangFields(sources, itemId, tableName, QStringList(lang), lists);
+    return std::move(lists.front());
 }
 
 QString MainPictureId(const QString& productId, Recordset& pictures) {

@@ -96,9 +96,7 @@ void AddBlock(TagValues& values, const std::vector<Block>& blocks, qsizetype pla
 }
 
 void AddCompanyTexts(TagValues& values, FieldSources& sources, const QString& lang) {
-    FieldList texts;
-    LoadLangFields(sources, u"0"_s, u"CorpInfo"_s, lang, texts);
-    for (const FieldItem& item : texts) {
+    for (const FieldItem& item : LoadLangFields(sources, u"0"_s, u"CorpInfo"_s, lang)) {
         AddTag(values, item.Tag, item.Value.isEmpty() ? u"-"_s : item.Value);
     }
 }
@@ -177,7 +175,6 @@ void FinishText(OutputFile& file, const QString& upperName, const FinishPass& pa
         file.Name.replace(u"%LID%"_s, file.Lang);
     }
     file.Data = TextToBytes(text.Take());
-    file.Data.squeeze();
 }
 
 } // namespace

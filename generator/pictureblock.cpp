@@ -56,13 +56,12 @@ QByteArray BuildPictureBlock(const PictureFrames& frames, const QString& product
         return {};
     }
     QByteArray text = frames.Head;
-    FieldList texts;
     bool first = true;
     for (pictures.SetFilter(u"ProductId = "_s + productId); pictures.HasRow();
          pictures.MoveNext()) {
         const PictureRow row{pictures.Text(u"PictureId"), productId,
                              pictures.Text(u"ProdPictureId")};
-        LoadLangFields(sources, row.pictureId, u"Pictures"_s, lang, texts);
+        const FieldList texts = LoadLangFields(sources, row.pictureId, u"Pictures"_s, lang);
         if (!first) {
             text += ExpandPicture(frames.Middle, row, lang, texts);
         }

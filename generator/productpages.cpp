@@ -33,19 +33,33 @@ struct PagePass {
     TagText body;
     QString namePattern;
     int marker;
-    QString pageName; // of the language shown in the editor
-    FieldList fields; // of the page being made
-    FieldList texts;
+    QString pageName;             // of the language shown in the editor
+    FieldList fields;             // of the page being made
+    std::vector<FieldList> texts; // of the product, in the order of WebLangs
 };
+
+// Whether `text` has the shape of a stored date, so that two of them compare as their texts do.
+bool LooksStored(const QString& text) {
+    return text.size() == 19 && text[4] == u'-' && text[7] == u'-' && text[10] == u'T' &&
+           text[13] == u':' && text[16] == u':';
+}
 
 // Whether the row has changed since the site was last published. A date that can't be read counts
 // as none: a row's is then not later, and the site's is earlier than any.
 class ChangeTest {
 public:
-    ChangeTest() : lastWebUpdate(ReadDate(LastWebUpdate)) {}
+    ChangeTest() : lastWebUpdate(ReadDate(LastWebUpdate)) {
+        if (lastWebUpdate) {
+            storedUpdate = StoredDateText(*lastWebUpdate);
+        }
+    }
     bool Changed(const SiteProduct& row) const {
         if (LastWebUpdate.isEmpty()) {
             return true;
+        }
+        // Most rows have not changed, and reading a date takes its time.
+        if (lastWebUpdate && LooksStored(row.LastUpdate) && row.LastUpdate <= storedUpdate) {
+            return false;
         }
         const std::optional<QDateTime> lastUpdate = ReadDate(row.LastUpdate);
         return lastUpdate && (!lastWebUpdate || *lastUpdate > *lastWebUpdate);
@@ -53,6 +67,7 @@ public:
 
 private:
     std::optional<QDateTime> lastWebUpdate;
+    QString storedUpdate;
 };
 
 void ReplaceInName(QString& name, const SiteProduct& row) {
@@ -65,14 +80,14 @@ void ReplaceInName(QString& name, const SiteProduct& row) {
     name.replace(u"%%SALEZONE%%"_s, row.SaleZone);
 }
 
-void BuildPage(PagePass& pass, const SiteProduct& row, const QString& lang) {
+// With the product's fields and texts loaded.
+void BuildPage(PagePass& pass, const SiteProduct& row, qsizetype place) {
+    const QString& lang = WebLangs[place];
     TagText body = pass.body;
     QString name = pass.namePattern;
-    LoadProductFields(pass.sources, row.ProductId, lang, pass.marker, pass.fields);
     ReplaceProductTags(body, row);
     body.Replace("%%PRODUCTREF%%"_ba, ToAnsi(row.ProductRef));
-    LoadLangFields(pass.sources, row.ProductId, u"Products"_s, lang, pass.texts);
-    ReplaceProductTexts(body, pass.texts, &name);
+    ReplaceProductTexts(body, pass.texts[place], &name);
     ReplaceInName(name, row);
     ReplaceFields(body, pass.fields, EmptyShows::Dash);
     AddZoneLang(QString(), row.SaleZone, lang, kZoneUnmarked);
@@ -91,8 +106,15 @@ void BuildPage(PagePass& pass, const SiteProduct& row, const QString& lang) {
 }
 
 void BuildPages(PagePass& pass, const SiteProduct& row) {
-    for (const QString& lang : WebLangs) {
-        BuildPage(pass, row, lang);
+    LoadLangFields(pass.sources, row.ProductId, u"Products"_s, WebLangs, pass.texts);
+    for (qsizetype place = 0; place < WebLangs.size(); ++place) {
+        if (place > 0 && pass.marker != kLayoutMarker) {
+            TranslateFields(pass.fields, WebLangs[place]);
+        } else {
+            LoadProductFields(pass.sources, row.ProductId, WebLangs[place], pass.marker,
+                              pass.fields);
+        }
+        BuildPage(pass, row, place);
     }
     RenderProductPictures(row.ProductId, row.ProductRef, pass.snapshot[kSnapPictures]);
 }

@@ -28,13 +28,16 @@ SiteProduct SiteProductReader::Read() const {
     SiteProduct row;
     row.ProductId = products.Text(id);
     row.ProductRef = products.Text(ref);
-    const Cell& amount = products.Value(price);
-    row.PriceAmount = CellNumber(amount);
-    row.PriceText = IsNull(amount) ? u"0"_s : CellText(amount);
+    row.PriceAmount = CellNumber(products.Value(price));
     row.PriceCurrency = products.Text(currency);
     row.SaleZone = products.Text(zone);
     row.LastUpdate = products.Text(update);
     return row;
+}
+
+QString SiteProductReader::PriceText() const {
+    const Cell& amount = products.Value(price);
+    return IsNull(amount) ? u"0"_s : CellText(amount);
 }
 
 void ReplaceProductTags(TagText& text, const SiteProduct& row) {
@@ -58,8 +61,7 @@ QByteArray ExpandListRow(const TagText& middle, const SiteProduct& row, const QS
     ReplaceProductTags(text, row);
     LoadProductFields(sources, row.ProductId, lang, 0, list);
     ReplaceFields(text, list, EmptyShows::Nothing);
-    LoadLangFields(sources, row.ProductId, u"Products"_s, lang, list);
-    ReplaceProductTexts(text, list);
+    ReplaceProductTexts(text, LoadLangFields(sources, row.ProductId, u"Products"_s, lang));
     text.Replace("%%MAINPICTUREID%%", ToAnsi(MainPictureId(row.ProductId, pictures)));
     return text.Take();
 }

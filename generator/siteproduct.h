@@ -11,7 +11,6 @@ struct SiteProduct {
     QString ProductId;
     QString ProductRef;
     double PriceAmount = 0; // Null counts as 0
-    QString PriceText;      // the amount in plain decimal with "."
     QString PriceCurrency;
     QString SaleZone;
     QString LastUpdate; // ISO 8601 text
@@ -22,6 +21,7 @@ class SiteProductReader {
 public:
     explicit SiteProductReader(const Recordset& products);
     SiteProduct Read() const;
+    QString PriceText() const; // the amount in plain decimal with "."; Null is "0"
 
 private:
     const Recordset& products;

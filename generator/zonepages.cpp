@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kZoneMarked = 65535;
-
 std::vector<ZoneLang> MarkedZones() {
     std::vector<ZoneLang> marked;
     std::copy_if(ZoneLangList.begin(), ZoneLangList.end(), std::back_inserter(marked),

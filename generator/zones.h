@@ -8,6 +8,9 @@
 #include <QString>
 #include <vector>
 
+// Mark of a zone that gets a listing page.
+inline constexpr int kZoneMarked = 65535;
+
 struct ZoneCodeEntry {
     QString Code; // place in the list, upper-case hexadecimal
     QString Zone;
@@ -22,7 +25,7 @@ struct ZoneLang {
     QString TipViv; // kind of product; empty in present catalogues
     QString SaleZone;
     QString Lang;
-    int Marked = 0; // 65535: gets a listing page; nothing marks a zone at present
+    int Marked = 0; // kZoneMarked or not; nothing marks a zone at present
 };
 
 struct ZoneLinkBlock {
