@@ -1,0 +1,103 @@
+#include "tests/support/catalogue.h"
+
+#include "core/settings.h"
+#include "platform/storeengine.h"
+#include "store/corpinfo.h"
+#include "store/fielddefs.h"
+#include "store/store.h"
+
+#include <QFile>
+#include <QHash>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Table and columns of each kind of line.
+const QHash<QString, QString> kKinds = {
+    {"def", "ProductFieldDef (FieldDefId, Type, Caption, Choices)"},
+    {"product",
+     "Products (ProductId, ProductRef, PriceAmount, IsNew, SaleZone, LastUpdate, PriceCurrency)"},
+    {"field", "ProductFields (ProductId, FieldDefId, FieldValue)"},
+    {"picture", "Pictures (ProductId, ProdPictureId, OrderInForm, PictureId, PicturePath)"},
+    {"textdef", "MultiLangFieldDef (TableName, FieldDefId, FieldName)"},
+    {"text", "MultiLangFields (TableName, ItemId, LangCode, FieldDefId, FieldValue)"}};
+
+QString Literal(QString value) {
+    return value == u"NULL" ? value : u'\'' + value.replace(u'\'', QStringLiteral("''")) + u'\'';
+}
+
+// What a test needn't say: the currency, a picture's number and its file.
+void AddDerived(const QString& kind, QStringList& values) {
+    if (kind == u"product") {
+        values.append("EUR");
+    } else if (kind == u"picture") {
+        const QString id = QString::number(values[0].toInt() * 100 + values[1].toInt());
+        values.append({id, "Pic" + id + ".dat"});
+    }
+}
+
+QString RowStatement(const QString& line) {
+    QStringList values;
+    for (const QString& value : line.split(u';')) {
+        values.append(value.trimmed());
+    }
+    const QString kind = values.takeFirst();
+    if (kind == u"corp") {
+        return "UPDATE CorpInfo SET " + values[0] + " = " + Literal(values[1]) + ';';
+    }
+    const QString target = kKinds.value(kind);
+    EXPECT_FALSE(target.isEmpty()) << qPrintable(line);
+    const qsizetype derived = kind == u"product" ? 1 : kind == u"picture" ? 2 : 0;
+    while (values.size() < target.count(u',') + 1 - derived) {
+        values.append("NULL");
+    }
+    AddDerived(kind, values);
+    for (QString& value : values) {
+        value = Literal(value);
+    }
+    return "INSERT INTO " + target + " VALUES (" + values.join(u',') + ");";
+}
+
+QString Schema() {
+    QFile file(SCHEMA_FILE);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << SCHEMA_FILE;
+    return QString::fromUtf8(file.readAll());
+}
+
+} // namespace
+
+TestCatalogue::TestCatalogue(const QString& rows) {
+    LoadSettings();
+    SetStoreFolder(Folder());
+    const auto connection = StoreConnection::Create(Folder() + DBname);
+    connection->Execute(Schema());
+    QString statements = "INSERT INTO CorpInfo (Name) VALUES ('');";
+    for (const QString& line : rows.split(u'\n')) {
+        if (!line.trimmed().isEmpty()) {
+            statements += RowStatement(line);
+        }
+    }
+    connection->Execute(statements);
+    for (Recordset& cursor : adcData) {
+        cursor.SetConnection(connection);
+    }
+    RunQuery(kCursorScratch, "SELECT count(*) AS n FROM ProductFieldDef WHERE Type<>'I'");
+    FirstHiddenField = static_cast<int>(adcData[kCursorScratch].Integer(u"n"));
+    LoadCorpInfo();
+}
+
+TestCatalogue::~TestCatalogue() {
+    DropSiteSnapshot(snapshot);
+    CloseStore();
+}
+
+QString TestCatalogue::Folder() const {
+    return folder.path() + u'/';
+}
+
+SiteSnapshot& TestCatalogue::Snapshot() {
+    if (snapshot.empty()) {
+        TakeSiteSnapshot(snapshot);
+    }
+    return snapshot;
+}

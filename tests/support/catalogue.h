@@ -1,0 +1,34 @@
+// Catalogues for tests: rows given as text in the test become a real store in a folder of its own,
+// opened through the program's cursors.
+//
+// One row a line: what it is, then its values, separated by ";". Blanks around a value don't count,
+// missing values and NULL are Null.
+//   def; FieldDefId; Type; Caption; Choices
+//   product; ProductId; ProductRef; PriceAmount; IsNew; SaleZone; LastUpdate
+//   field; ProductId; FieldDefId; FieldValue
+//   picture; ProductId; ProdPictureId; OrderInForm
+//   textdef; TableName; FieldDefId; FieldName
+//   text; TableName; ItemId; LangCode; FieldDefId; FieldValue
+//   corp; column of the company's row; value
+#pragma once
+
+#include "store/snapshot.h"
+
+#include <QString>
+#include <QTemporaryDir>
+
+class TestCatalogue {
+public:
+    // The settings are read anew and get this catalogue's folder; the company's data are loaded.
+    explicit TestCatalogue(const QString& rows);
+    ~TestCatalogue();
+
+    QString Folder() const; // with a trailing "/"
+
+    // Taken when first asked for.
+    SiteSnapshot& Snapshot();
+
+private:
+    QTemporaryDir folder;
+    SiteSnapshot snapshot;
+};
