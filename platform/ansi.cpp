@@ -17,14 +17,20 @@ constexpr std::array<char16_t, kLastSpecial - kFirstSpecial + 1> kSpecial{
 } // namespace
 
 QByteArray ToAnsi(QStringView text) {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char* to = bytes.data();
     for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar character = text[at];
+        if (character.unicode() < kFirstSpecial) {
+            *to++ = static_cast<char>(character.unicode());
+            continue;
+        }
         const bool pair =
-            text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
-        bytes.append(static_cast<char>(AnsiValue(text[at])));
+            character.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        *to++ = static_cast<char>(AnsiValue(character));
         at += pair ? 1 : 0;
     }
+    bytes.truncate(to - bytes.constData());
     return bytes;
 }
 
