@@ -1,5 +1,5 @@
 // A listing page for each marked zone and language. Nothing marks a zone at present, so that no
-// page is made; the sections stay a part of the template format. Owns ZonePageBlocks.
+// page is made; the sections stay a part of the template format. Owns ZonePageBlock.
 #pragma once
 
 #include "store/snapshot.h"
