@@ -2,6 +2,7 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
+#include "details/webpreview.h"
 #include "forms/mainform.h"
 #include "generator/generate.h"
 #include "platform/controls.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int kButtonUpdate = 0;
 constexpr int kButtonCancel = 1;
+constexpr int kStorageLocal = 0;
 constexpr int kOptionChanged = 0;
 constexpr int kOptionAll = 1;
 
@@ -60,6 +62,9 @@ void Publish() {
     publishing = false;
     if (LastOutcome == PublishOutcome::Delivered) {
         RecordSuccess();
+        if (StorageMethod == kStorageLocal) {
+            ShowWebPreview(StoragePath + "index.html");
+        }
     }
 }
 
