@@ -13,6 +13,12 @@ if(SANITIZE)
     target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(FUZZ)
+    # Without it the fuzzer can't see which branches an input takes.
+    target_compile_options(house_flags INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(house_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # use_house(TARGET): flags and the shared precompiled headers for any target of ours.
 function(use_house target)
     target_link_libraries(${target} PUBLIC house_flags Qt6::Widgets Qt6::Network Qt6::Svg)
