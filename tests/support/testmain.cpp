@@ -1,6 +1,7 @@
 // Every test program starts here: off the screen, with Spanish numbers and dates, and with folders
 // of its own in place of the user's, so that no test sees or changes anybody's settings.
-#include <QApplication>
+#include "platform/notify.h"
+
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -13,7 +14,8 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
-    QApplication application(argc, argv);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // as the program does
+    Application application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
