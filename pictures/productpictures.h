@@ -1,28 +1,27 @@
 // The published pictures: each output is decoded, scaled to the size that the template demands and
-// written as JPEG.
-//
-// A section's Params say the size: RESIZE=WxH with an upper-case X gives exactly that size,
-// OPTIMALSIZE=WxH fits inside it with the proportions kept.
+// written as JPEG. A picture that can't be read throws PictureError, which ends the pass; its text
+// tells the user where to find the picture.
 #pragma once
 
 #include "generator/outputs.h"
+#include "generator/template.h"
+#include "pictures/picturesizes.h"
 #include "platform/recordset.h"
 
-#include <QSize>
-#include <optional>
+// The picture of the row (of Pictures) on which `pictures` stands, as the section demands. Without
+// a demand the file has neither name nor data. %%PICTUREID%% in the section's Name is the row's.
+OutputFile RenderProductPicture(const Recordset& pictures, const TemplateSectionRecord& section);
 
-// What a picture of `source` pixels becomes inside `box`, as the previews and the sites have always
-// computed it.
-QSize FitPictureInto(QSize source, QSize box, int margin);
-
-// Every size section's picture of a product, in album order; PictureError (with the product's
-// reference) ends the pass.
+// Adds the pictures of a product to OutputFiles, in album order, each once for every
+// product-picture section of ImageSections that has a demand. Leaves `pictures` filtered to the
+// product. A PictureError names `productRef` and the picture's place in the album, counted from 1.
 void RenderProductPictures(const QString& productId, const QString& productRef,
                            Recordset& pictures);
 
-// The placeholder "nopicture" for every size section: of the template's own picture, else of the
-// company's logo.
+// Adds the placeholder, picture id "nopicture", for every product-picture section with RESIZE: of
+// the template's own picture, else of the company's logo. Without either there is none.
 void PrepareNoPictureImages();
 
-// Logo, extra picture and map of the company, where the template has a section for them.
+// Adds logo, extra picture and map of the company, where there is a picture and the template has a
+// section for it with OPTIMALSIZE.
 void AddCompanyLogos();

@@ -10,6 +10,10 @@ namespace {
 constexpr int kBytesPerPixel = 4;
 constexpr int kMegabyte = 1 << 20;
 
+// More than either format can pack into a byte of a picture that is there. What claims more takes
+// memory for nothing.
+constexpr qint64 kMaxPixelsPerByte = 4096;
+
 constexpr int kGifHead = 10; // bytes up to and with the height
 
 // BMP: 14 bytes of file header, then an information header that begins with its own size.
@@ -40,13 +44,16 @@ template <class Number> Number At(const QByteArray& bytes, int offset) {
     return qFromLittleEndian<Number>(bytes.constData() + offset);
 }
 
-void CheckSize(qint64 width, qint64 height) {
+void CheckSize(const QIODevice& file, qint64 width, qint64 height) {
     if (width <= 0 || height <= 0) {
         throw DamagedPicture();
     }
     if (width > kMaxDecodedPixels || height > kMaxDecodedPixels ||
         width * height > kMaxDecodedPixels) {
         throw TooLargePicture(QSize(int(width), int(height)));
+    }
+    if (width * height > file.size() * kMaxPixelsPerByte) {
+        throw DamagedPicture();
     }
 }
 
@@ -60,7 +67,7 @@ BmpHead ReadBmpHead(QIODevice& file) {
     const qint64 width = isOld ? At<quint16>(bytes, 18) : At<qint32>(bytes, 18);
     // Negative where the first row is the top one.
     const qint64 height = std::abs(isOld ? qint64(At<quint16>(bytes, 20)) : At<qint32>(bytes, 22));
-    CheckSize(width, height);
+    CheckSize(file, width, height);
 
     BmpHead head;
     head.size = QSize(int(width), int(height));
@@ -97,7 +104,7 @@ QImage OnWhite(QImage image) {
 QSize ReadGifSize(QIODevice& file) {
     const QByteArray head = PeekHead(file, kGifHead);
     const QSize size(At<quint16>(head, 6), At<quint16>(head, 8));
-    CheckSize(size.width(), size.height());
+    CheckSize(file, size.width(), size.height());
     return size;
 }
 

@@ -208,7 +208,7 @@ FilterIndex::FilterIndex(const ResultSet& result, std::span<const int> rows,
     for (const int row : rows) {
         bool hasNull = false;
         for (size_t key = 0; key < columns.size(); ++key) {
-            const Cell& cell = result.Row(row)[columns[key]];
+            const Cell& cell = result.rows.Row(row)[columns[key]];
             hasNull = hasNull || IsNull(cell);
             texts[key] = keys[key].Of(cell);
         }
@@ -259,7 +259,7 @@ int FilterIndex::FindGroup(const ResultSet& result, std::span<const QStringView>
     KeyText key;
     for (place = PlaceOf(hash, places.size()); places[place] != kNoGroup;
          place = (place + 1) & (places.size() - 1)) {
-        const Cell* row = result.Row(firstRows[places[place]]);
+        const Cell* row = result.rows.Row(firstRows[places[place]]);
         bool equal = true;
         for (size_t column = 0; equal && column < columns.size(); ++column) {
             equal = EqualFolded(key.Of(row[columns[column]]), texts[column]);

@@ -69,7 +69,7 @@ struct Recordset::Data {
 
     void Drop() {
         open = false;
-        result = {};
+        result = ResultSet();
         live.clear();
         pending.clear();
         locks.clear();
@@ -95,7 +95,7 @@ struct Recordset::Data {
     void Show(ResultSet&& rows) {
         Drop();
         result = std::move(rows);
-        live.resize(result.RowCount());
+        live.resize(result.rows.Count());
         std::iota(live.begin(), live.end(), 0);
         open = true;
         MoveTo(0);
@@ -122,7 +122,7 @@ struct Recordset::Data {
     void TakeOver(int row, std::vector<Cell>&& cells) {
         for (size_t column = 0; column < cells.size(); ++column) {
             if (!result.columns[column].origin.isEmpty()) {
-                result.Row(row)[column] = std::move(cells[column]);
+                result.rows.Row(row)[column] = std::move(cells[column]);
             }
         }
         LeaveIndexes();
@@ -134,7 +134,7 @@ struct Recordset::Data {
         if (known != pending.end()) {
             return known->second;
         }
-        const Cell* cells = result.Row(row);
+        const Cell* cells = result.rows.Row(row);
         return pending[row] = {PendingKind::Edited, {cells, cells + result.columns.size()}};
     }
 
@@ -201,7 +201,7 @@ Recordset Recordset::Clone() const {
     ResultSet rows = d->result;
     for (const auto& [row, change] : d->pending) {
         if (change.kind == PendingKind::Edited || change.kind == PendingKind::Deleted) {
-            std::copy(change.original.begin(), change.original.end(), rows.Row(row));
+            std::copy(change.original.begin(), change.original.end(), rows.rows.Row(row));
         }
     }
     clone.d->Show(std::move(rows));
@@ -279,10 +279,12 @@ void Recordset::SetFilter(const QString& filter) {
 
 void Recordset::AddNew() {
     d->RequireUpdatable();
-    const int row = d->result.RowCount();
+    const int row = d->result.rows.Count();
     const std::vector<Cell> empty(d->result.columns.size());
     d->LeaveIndexes();
-    d->result.cells.insert(d->result.cells.end(), empty.begin(), empty.end());
+    for (const Cell& cell : empty) {
+        d->result.rows.Append(cell);
+    }
     d->result.rowIds.push_back(0); // known after Update
     d->pending[row] = {PendingKind::Added, empty};
     d->live.push_back(row);
@@ -361,7 +363,7 @@ const Cell& Recordset::Value(int column) const {
     if (column < 0 || column >= ColumnCount()) {
         throw StoreError(kErrNoColumn, QStringLiteral("No existe la columna %1").arg(column));
     }
-    return d->result.Row(d->CurrentRow())[column];
+    return d->result.rows.Row(d->CurrentRow())[column];
 }
 
 void Recordset::Set(QStringView name, const Cell& value) {
@@ -375,10 +377,10 @@ void Recordset::Set(QStringView name, const Cell& value) {
     const int row = d->CurrentRow();
     d->LockRow(row);
     const Cell kept = ConvertCell(value, target.affinity);
-    if (d->result.Row(row)[column] == kept) {
+    if (d->result.rows.Row(row)[column] == kept) {
         return;
     }
     d->PendingOf(row);
     d->LeaveIndexes();
-    d->result.Row(row)[column] = kept;
+    d->result.rows.Row(row)[column] = kept;
 }

@@ -14,15 +14,48 @@ struct ResultColumn {
     Affinity affinity = Affinity::None;
 };
 
+// The fields of all rows, every row as many as there are columns. Rows never move, so that filling
+// costs no copying.
+class CellRows {
+public:
+    explicit CellRows(size_t columnCount = 0) : columns(columnCount) {}
+
+    int Count() const { return count; }
+    Cell* Row(int row) { return &blocks[row / kRowsPerBlock][row % kRowsPerBlock * columns]; }
+    const Cell* Row(int row) const {
+        return &blocks[row / kRowsPerBlock][row % kRowsPerBlock * columns];
+    }
+
+    // The next field of the last row; the first one beyond a full row begins another.
+    template <typename Value> void Append(Value&& value) {
+        if (column == 0) {
+            BeginRow();
+        }
+        blocks.back().emplace_back(std::forward<Value>(value));
+        column = column + 1 == columns ? 0 : column + 1;
+    }
+
+private:
+    static constexpr size_t kRowsPerBlock = 128;
+
+    void BeginRow() {
+        if (static_cast<size_t>(count) % kRowsPerBlock == 0) {
+            blocks.emplace_back().reserve(kRowsPerBlock * columns);
+        }
+        ++count;
+    }
+
+    size_t columns;
+    size_t column = 0; // of the next field
+    int count = 0;
+    std::vector<std::vector<Cell>> blocks;
+};
+
 struct ResultSet {
     std::vector<ResultColumn> columns;
-    std::vector<Cell> cells;    // row after row, every column of each
+    CellRows rows;
     std::vector<qint64> rowIds; // one a row; empty when rows can't be written
     QByteArray table;           // the one table's name; empty when rows can't be written
-
-    int RowCount() const { return static_cast<int>(cells.size() / columns.size()); }
-    Cell* Row(int row) { return &cells[static_cast<size_t>(row) * columns.size()]; }
-    const Cell* Row(int row) const { return &cells[static_cast<size_t>(row) * columns.size()]; }
 };
 
 // Runs a SELECT statement of the catalogue to its end.

@@ -96,7 +96,7 @@ TEST(BitmapReader, PixelsThatAFilePassesOverHaveTheFirstColor) {
     const QByteArray table = kPalette.leftJustified(1024, 0);
     const QByteArray bytes = MakeBmp({200, 100}, Hex("0102 0103 0001"),
                                      {.depth = 8, .compression = kRle8, .table = table});
-    QByteArray(200 * 100, '\x5A').clear(); // what memory held before must not show
+    QByteArray(20'000, '\x5A').clear(); // what memory held before must not show
     const QImage image = Read(bytes);
     EXPECT_LE(ColorDistance(image.pixel(0, 99), kFieldC), 0);
     for (int y = 0; y < 99; ++y) {
@@ -128,6 +128,8 @@ TEST(BitmapReader, DamagedOrAbsurdFilesAreRefused) {
         {"GIF without a frame", gif.left(13) + ";", "dañado"},
         {"GIF cut within its frame", gif.left(gif.size() - 6), "dañado"},
         {"GIF of an absurd size", QByteArray(gif).replace(6, 4, "\xFF\xFF\xFF\xFF"), "demasiado"},
+        {"GIF of a size beyond its bytes", QByteArray(gif).replace(6, 4, Hex("00200020")),
+         "dañado"},
         {"GIF of no size", QByteArray(gif).replace(6, 4, QByteArray(4, '\0')), "dañado"},
         {"BMP of its mark alone", bmp.left(2), "dañado"},
         {"BMP cut within its pixels", bmp.chopped(5), "dañado"},

@@ -1,0 +1,90 @@
+#include "tests/designs/sitechecks.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kPatience = 120'000; // milliseconds for one site
+
+QStringList FoldersOf(const QString& path) {
+    return QDir(path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+void RunTool(const QString& program, const QStringList& arguments,
+             const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished(kPatience)) << program.toStdString();
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+}
+
+// A user of whom nothing else on the machine knows, with a catalogue of his own.
+class Publisher {
+public:
+    explicit Publisher(const QString& sample) {
+        QDir(home.path()).mkdir("data");
+        for (const QFileInfo& file : QDir(sample).entryInfoList(QDir::Files | QDir::Hidden)) {
+            QFile::copy(file.filePath(), home.filePath("data/" + file.fileName()));
+        }
+    }
+
+    // The site in a fresh folder.
+    QDir Publish(const QString& design, const QString& languages) {
+        const QString site = home.filePath(QString("site%1/").arg(++sites));
+        QDir(home.path()).mkpath("Lumenta");
+        QFile settings(home.filePath("Lumenta/settings.ini"));
+        EXPECT_TRUE(settings.open(QIODevice::WriteOnly));
+        settings.write(QString("[Params]\nDBpath=%1\nStoragePath=%2\nUserLangs=%3\n"
+                               "DefaultLang=%4\n[Templates]\nTemplPath=%5\n")
+                           .arg(home.filePath("data/"), site, languages, languages.left(2), design)
+                           .toUtf8());
+        settings.close();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", home.path());
+        environment.insert("XDG_RUNTIME_DIR", home.path());
+        RunTool(PUBLISH, {}, environment);
+        return QDir(site);
+    }
+
+private:
+    QTemporaryDir home;
+    int sites = 0;
+};
+
+// Pictures cost time and are the same in all languages: languages are varied where there are none.
+QStringList LanguagesFor(const QString& sample) {
+    const bool hasPictures = !QDir(sample).entryList({"Pic*.dat"}).isEmpty();
+    return hasPictures ? QStringList{"ES|EN|DE|FR"} : QStringList{"FR|ES", "DE"};
+}
+
+void ExpectWhole(const QDir& site) {
+    EXPECT_TRUE(site.exists("index.html"));
+    EXPECT_EQ(FindTagsLeft(site).join('\n').toStdString(), "");
+    EXPECT_EQ(FindBrokenLinks(site).join('\n').toStdString(), "");
+    EXPECT_EQ(FindMalformedPages(site).join('\n').toStdString(), "");
+}
+
+} // namespace
+
+TEST(Designs, EveryDesignMakesAWholeSiteOfEverySample) {
+    const QStringList samples = FoldersOf(SAMPLES_FOLDER);
+    const QStringList designs = FoldersOf(DESIGNS_FOLDER);
+    ASSERT_GE(samples.size(), 2);
+    ASSERT_GE(designs.size(), 2);
+    QTemporaryDir packed;
+    for (const QString& sample : samples) {
+        const QString folder = SAMPLES_FOLDER "/" + sample;
+        Publisher publisher(folder);
+        for (const QString& design : designs) {
+            const QString file = packed.filePath(design + ".zdt");
+            RunTool(PACKDESIGN, {DESIGNS_FOLDER "/" + design, file});
+            for (const QString& languages : LanguagesFor(folder)) {
+                SCOPED_TRACE((design + " on " + sample + " in " + languages).toStdString());
+                ExpectWhole(publisher.Publish(file, languages));
+            }
+        }
+    }
+}

@@ -1,0 +1,143 @@
+#include "platform/dialogs.h"
+#include "platform/notify.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kPatience = 5000; // milliseconds
+
+// Calls `answer` with the next dialog of the class that appears; fails if none does.
+template <typename Dialog> void WhenShown(const std::function<void(Dialog*)>& answer) {
+    auto* look = new QTimer(qApp);
+    auto tries = std::make_shared<int>(0);
+    QObject::connect(look, &QTimer::timeout, look, [=] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr && ++*tries < kPatience / 5) {
+            return;
+        }
+        look->stop();
+        look->deleteLater();
+        ASSERT_NE(dialog, nullptr);
+        answer(dialog);
+    });
+    look->start(5);
+}
+
+// Throws when it gets a user event, like a handler with a store failure.
+class FailingObject : public QObject {
+public:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::User) {
+            throw std::runtime_error("No se ha podido leer la ñ");
+        }
+        return QObject::event(event);
+    }
+};
+
+void PostFailure(FailingObject& object) {
+    QCoreApplication::postEvent(&object, new QEvent(QEvent::User));
+}
+
+} // namespace
+
+TEST(Dialogs, BoxShowsWhatItIsGiven) {
+    WhenShown<QMessageBox>([](QMessageBox* box) {
+        EXPECT_EQ(box->text(), "Línea <b>1</b>\nLínea 2");
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box->windowTitle(), "Lumenta");
+        EXPECT_EQ(box->icon(), QMessageBox::Warning);
+        ASSERT_EQ(box->buttons().size(), 1);
+        EXPECT_EQ(box->buttons()[0]->text(), "&Aceptar");
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(MsgBox("Línea <b>1</b>\nLínea 2", BoxIcon::Warning, BoxButtons::Ok, BoxAnswer::Ok,
+                     "Lumenta"),
+              BoxAnswer::Ok);
+}
+
+TEST(Dialogs, QuestionIsAnsweredByButtonKeyDefaultOrClosing) {
+    struct Case {
+        BoxAnswer defaultAnswer;
+        std::function<void(QMessageBox*)> act;
+        BoxAnswer answer;
+    };
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        return [=](QMessageBox* box) { QTest::keyClick(box, key, modifiers); };
+    };
+    const Case cases[] = {
+        {BoxAnswer::Yes, press(Qt::Key_Return), BoxAnswer::Yes},
+        {BoxAnswer::No, press(Qt::Key_Return), BoxAnswer::No},
+        {BoxAnswer::Yes, press(Qt::Key_Escape), BoxAnswer::No},
+        {BoxAnswer::Yes, [](QMessageBox* box) { box->close(); }, BoxAnswer::No},
+        {BoxAnswer::No, [](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); },
+         BoxAnswer::Yes},
+        {BoxAnswer::Yes, press(Qt::Key_N, Qt::AltModifier), BoxAnswer::No},
+    };
+    for (const Case& item : cases) {
+        WhenShown<QMessageBox>(item.act);
+        EXPECT_EQ(MsgBox("¿Seguro?", BoxIcon::Question, BoxButtons::YesNo, item.defaultAnswer, "?"),
+                  item.answer)
+            << &item - cases;
+    }
+}
+
+TEST(Dialogs, ChoicesComeBackAsPathsOrEmpty) {
+    LoadToolkitTexts();
+    const QTemporaryDir home;
+    QDir(home.path()).mkdir("fotos");
+    QFile picture(home.filePath("fotos/CASA.JPG"));
+    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
+    const auto choose = [](const QString& path) {
+        return [path](QFileDialog* dialog) {
+            dialog->selectFile(path);
+            static_cast<QDialog*>(dialog)->accept();
+        };
+    };
+    WhenShown<QFileDialog>(choose(home.filePath("fotos")));
+    EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), home.filePath("fotos"));
+    WhenShown<QFileDialog>(choose("/"));
+    EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), "/");
+    WhenShown<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
+    EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), "");
+
+    WhenShown<QFileDialog>([&](QFileDialog* dialog) {
+        EXPECT_EQ(dialog->windowTitle(), "Foto");
+        EXPECT_EQ(dialog->directory().path(), home.filePath("fotos"));
+        EXPECT_EQ(dialog->nameFilters(),
+                  (QStringList{"Todas las Imágenes", "Imágenes GIF", "Imágenes JPEG",
+                               "Imágenes BMP", "Todos los Ficheros"}));
+        EXPECT_EQ(dialog->labelText(QFileDialog::Reject), "Cancelar"); // the toolkit's own text
+        choose(picture.fileName())(dialog);
+    });
+    EXPECT_EQ(BrowsePicture(nullptr, "Foto", home.filePath("fotos")), picture.fileName());
+}
+
+TEST(Notify, UnhandledFailureIsShownOnceAndTheProgramGoesOn) {
+    SetErrorTitle("Lumenta");
+    FailingObject object;
+    int boxes = 0;
+    WhenShown<QMessageBox>([&](QMessageBox* box) {
+        ++boxes;
+        EXPECT_EQ(box->text(), "No se ha podido leer la ñ");
+        EXPECT_EQ(box->windowTitle(), "Lumenta");
+        EXPECT_EQ(box->icon(), QMessageBox::Warning);
+        PostFailure(object); // fails while the first failure is on screen
+        QTimer::singleShot(0, box, [=] {
+            EXPECT_EQ(QApplication::activeModalWidget(), box);
+            box->accept();
+        });
+    });
+    PostFailure(object);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}

@@ -1,0 +1,120 @@
+#include "platform/usersettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr char kApplication[] = "Catálogo";
+
+class UserSettings : public testing::Test {
+protected:
+    void SetUp() override { QDir(Folder()).removeRecursively(); }
+
+    static QString Folder() { return QFileInfo(SettingsPath(kApplication)).path(); }
+
+    static void WriteByHand(const QByteArray& bytes) {
+        QDir().mkpath(Folder());
+        QFile file(SettingsPath(kApplication));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    static QByteArray Content(const QString& name = "settings.ini") {
+        QFile file(Folder() + '/' + name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    }
+};
+
+} // namespace
+
+TEST_F(UserSettings, AnyTextComesBackAsWritten) {
+    const QStringList texts{"",
+                            "a,b;c",
+                            " leading",
+                            "trailing\t",
+                            "\"quoted\"",
+                            "\"",
+                            "say \"hi\"",
+                            "C:\\new\\temp",
+                            "\\",
+                            "50%20 %1",
+                            "@Variant(x)",
+                            "[Params]",
+                            "; no comment",
+                            "# nor this",
+                            "a=b=c",
+                            "two\nlines\r\n",
+                            "Ñandú € 日本 \U0001F600",
+                            " \\\" ",
+                            QString::fromUtf8("nul\0inside", 10)};
+    for (const QString& text : texts) {
+        SaveSetting(kApplication, "Params", "Value", text);
+        SaveSetting(kApplication, "Params", "After", "next");
+        EXPECT_EQ(GetSetting(kApplication, "Params", "Value", "missing"), text)
+            << Content().toStdString();
+        EXPECT_EQ(GetSetting(kApplication, "Params", "After"), "next");
+    }
+}
+
+TEST_F(UserSettings, FileWrittenByHandReadsAsExpectedAndKeepsItsLines) {
+    WriteByHand("\xEF\xBB\xBF; mis ajustes\r\n"
+                "[params]\r\n"
+                "FTPServer = ftp.ejemplo.es\r\n"
+                "FTPPass=a,b;c\"d\" 50%\r\n"
+                "nonsense\r\n"
+                "\r\n"
+                "[UI]\r\n"
+                "uipassword=\" contraseña \"\r\n"
+                "Folder=\"casa\" y \"jardín\"\r\n");
+    EXPECT_EQ(GetSetting(kApplication, "Params", "ftpserver"), "ftp.ejemplo.es");
+    EXPECT_EQ(GetSetting(kApplication, "Params", "FTPPass"), "a,b;c\"d\" 50%");
+    EXPECT_EQ(GetSetting(kApplication, "UI", "UIPassword"), " contraseña ");
+    EXPECT_EQ(GetSetting(kApplication, "UI", "Folder"), "\"casa\" y \"jardín\"");
+    EXPECT_EQ(GetSetting(kApplication, "UI", "FTPPass", "default"), "default");
+    SaveSetting(kApplication, "PARAMS", "FTPPASS", "x");
+    SaveSetting(kApplication, "Params", "DBname", "y");
+    const QList<QByteArray> lines = Content().replace("\r", "").split('\n');
+    EXPECT_EQ(lines, (QList<QByteArray>{"; mis ajustes", "[params]", "FTPServer = ftp.ejemplo.es",
+                                        "FTPPASS=x", "nonsense", "DBname=y", "", "[UI]",
+                                        "uipassword=\" contraseña \"",
+                                        "Folder=\"casa\" y \"jardín\"", ""}));
+}
+
+TEST_F(UserSettings, DamagedFileIsSetAsideBeforeTheFirstWrite) {
+    const QByteArray damaged[] = {QByteArray("[Params]\n\0\0", 11), "[Params]\nkey=\xF1\n",
+                                  "key=value\n"};
+    int number = 0;
+    for (const QByteArray& bytes : damaged) {
+        WriteByHand(bytes);
+        EXPECT_EQ(GetSetting(kApplication, "Params", "key", "default"), "default");
+        EXPECT_EQ(Content(), bytes); // reading leaves it alone
+        BeginSettings();
+        SaveSetting(kApplication, "Params", "key", "1");
+        SaveSetting(kApplication, "Params", "other", "2");
+        CommitSettings();
+        EXPECT_EQ(Content("settings.ini.dañado-" + QString::number(++number)), bytes);
+        EXPECT_EQ(Content(), "[Params]\nkey=1\nother=2\n");
+    }
+}
+
+TEST_F(UserSettings, FileIsReadableByItsUserAlone) {
+    constexpr auto kUserOnly =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    SaveSetting(kApplication, "Params", "FTPPass", "secreto");
+    EXPECT_EQ(QFile::permissions(SettingsPath(kApplication)), kUserOnly);
+    WriteByHand("[Params]\n");
+    QFile::setPermissions(SettingsPath(kApplication), QFile::ReadOther | kUserOnly);
+    SaveSetting(kApplication, "Params", "FTPPass", "secreto");
+    EXPECT_EQ(QFile::permissions(SettingsPath(kApplication)), kUserOnly);
+    EXPECT_EQ(QDir(Folder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+TEST_F(UserSettings, ApplicationsNameNeverLeavesTheSettingsFolder) {
+    for (const char* name : {"../otro", "..", "", "a/b"}) {
+        const QString path = QDir::cleanPath(SettingsPath(name));
+        EXPECT_EQ(QFileInfo(QFileInfo(path).path()).path(), QFileInfo(Folder()).path()) << name;
+    }
+}
