@@ -1,4 +1,8 @@
+#include "core/settings.h"
+#include "forms/mainform.h"
+#include "generator/generate.h"
 #include "tests/designs/sitechecks.h"
+#include "tests/support/catalogue.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -60,6 +64,13 @@ QStringList LanguagesFor(const QString& sample) {
     return hasPictures ? QStringList{"ES|EN|DE|FR"} : QStringList{"FR|ES", "DE"};
 }
 
+// A design of ours, packed.
+QString Pack(const QString& design, const QTemporaryDir& folder) {
+    const QString file = folder.filePath(design + ".zdt");
+    RunTool(PACKDESIGN, {DESIGNS_FOLDER "/" + design, file});
+    return file;
+}
+
 void ExpectWhole(const QDir& site) {
     EXPECT_TRUE(site.exists("index.html"));
     EXPECT_EQ(FindTagsLeft(site).join('\n').toStdString(), "");
@@ -79,12 +90,44 @@ TEST(Designs, EveryDesignMakesAWholeSiteOfEverySample) {
         const QString folder = SAMPLES_FOLDER "/" + sample;
         Publisher publisher(folder);
         for (const QString& design : designs) {
-            const QString file = packed.filePath(design + ".zdt");
-            RunTool(PACKDESIGN, {DESIGNS_FOLDER "/" + design, file});
+            const QString file = Pack(design, packed);
             for (const QString& languages : LanguagesFor(folder)) {
                 SCOPED_TRACE((design + " on " + sample + " in " + languages).toStdString());
                 ExpectWhole(publisher.Publish(file, languages));
             }
         }
+    }
+}
+
+TEST(Designs, SheetOfAProductShowsItsValuesWithoutGaps) {
+    const MainForm form;
+    TestCatalogue catalogue("def; 0; T; ESMarca#ENBrand\n"
+                            "def; 1; T; ESMaterial#ENMaterial\n"
+                            "def; 2; B; ESA mano#ENHandmade\n"
+                            "def; 3; O; ESColor#ENColour; ESRojo#ENRed|ESVerde#ENGreen\n"
+                            "product; 10001; T-1; 12.5; 0; Centro; 2024-01-01T00:00:00\n"
+                            "field; 10001; 0;\n"
+                            "field; 10001; 1; Gres\n"
+                            "field; 10001; 2; 0\n"
+                            "field; 10001; 3; 1\n"
+                            "textdef; Products; 0; ShortDesc\n"
+                            "textdef; Products; 1; LongDesc\n"
+                            "text; Products; 10001; ES; 0; Taza\n"
+                            "text; Products; 10001; EN; 0; Mug");
+    SetUserLangs("ES|EN", "ES");
+    SetUICurrentLang("ES");
+    QTemporaryDir packed;
+    for (const QString& design : FoldersOf(DESIGNS_FOLDER)) {
+        SCOPED_TRACE(design.toStdString());
+        const QString page =
+            GeneratePreviewPage("LAYOUT|10001", Pack(design, packed), catalogue.Snapshot());
+        QFile file(page);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << page.toStdString();
+        const QString text = QString::fromLatin1(file.readAll());
+        EXPECT_EQ(text.count("<tr><td>"), 2);
+        EXPECT_TRUE(text.contains("<tr><td>Gres</td><th scope=\"row\">Material</th></tr>"));
+        EXPECT_TRUE(text.contains("<tr><td>Verde</td><th scope=\"row\">Color</th></tr>"));
+        EXPECT_EQ(FindTagsLeft(QFileInfo(page).dir()).join('\n').toStdString(), "");
+        EXPECT_EQ(FindMalformedPages(QFileInfo(page).dir()).join('\n').toStdString(), "");
     }
 }
