@@ -11,7 +11,7 @@ struct WordSection {
     QString body;      // tags joined by "#", then the words of each language after a "|"
 };
 
-// The first line has the language codes behind its first column. Empty lines and such as begin with
-// "#" don't count; a line that begins with "=" has one word for all languages. Errors: lines with another number of columns, columns with a "#", no tag, no
-// language.
+// The first line has the language codes behind its first column. A line that begins with "=" has
+// one word for all languages; empty lines and such as begin with "#" don't count. Errors: lines
+// with another number of columns, columns with a "#", no tag, no language.
 WordSection ReadWordTable(const SourceText& table, const SourcePlace& wanted, PackReport& report);
