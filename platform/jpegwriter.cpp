@@ -35,7 +35,7 @@ QByteArray EncodeJpeg(const QImage& image) {
         encoder.in_color_space = JCS_EXT_BGRX; // QRgb on a little-endian machine
         jpeg_set_defaults(&encoder);
         jpeg_set_quality(&encoder, kJpegQuality, TRUE);
-        // Costs a fraction of the decoding and saves a twentieth of every transfer.
+        // A millisecond a picture for some three to eight hundredths of every transfer.
         encoder.optimize_coding = TRUE;
         jpeg_start_compress(&encoder, TRUE);
         for (int y = 0; y < pixels.height(); ++y) {

@@ -1,6 +1,7 @@
 #include "core/settings.h"
 #include "pictures/productpictures.h"
 #include "platform/picture.h"
+#include "store/corpinfo.h"
 #include "store/snapshot.h"
 #include "tests/support/catalogue.h"
 #include "tests/support/templatebuilder.h"
@@ -136,9 +137,14 @@ TEST_F(ProductPictures, PlaceholderComesFromTheTemplateElseTheLogoInExactSizesOn
     PrepareNoPictureImages();
     EXPECT_EQ(Outputs(), Lines({"tnopicture.jpg 100x100"}));
 
-    builder.AddBytes(kKindNoPicture, "", "", "");
     Load(TwoSizes().AddBytes(kKindNoPicture, "", "", ""));
     EXPECT_THROW(PrepareNoPictureImages(), PictureError) << "no body";
+
+    ClearOutputFiles();
+    Load(TwoSizes());
+    CorpInfoData.CorpLogo.clear();
+    PrepareNoPictureImages();
+    EXPECT_EQ(Outputs(), Lines({})) << "neither";
 }
 
 TEST_F(ProductPictures, CompanyPicturesFitTheirSectionsWhereBothExist) {
