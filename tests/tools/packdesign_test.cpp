@@ -97,7 +97,6 @@ TEST(PackDesign, WhatIsPackedIsWhatTheProgramReads) {
                                    "params = RESIZE=4X3;\n");
     design.Write("words.txt", kWords + "=%%TEL%% | Tel.\n");
     design.Write("home.html", kHome + "<!--#include pie.html-->\nfin");
-    design.Write("words.txt", kWords + "=%%T%% | Tel.\n");
     design.Write("pie.html", "\xEF\xBB\xBF"
                              "año €\r\n");
     design.Write("zones.html", "<ul>\n  <!--ITEM-->\n<li>%%SALEZONE%%</li>\n<!--/ITEM-->\n</ul>\n");
