@@ -83,13 +83,13 @@ std::optional<QDateTime> ReadDate(QStringView text) {
     if (!date.isValid() || !time.isValid()) {
         return {};
     }
-    return QDateTime(date, time);
+    return QDateTime(date, time, Qt::UTC);
 }
 
 QDateTime Now() {
     const QDateTime now = QDateTime::currentDateTime();
-    return QDateTime(now.date(),
-                     QTime(now.time().hour(), now.time().minute(), now.time().second()));
+    const QTime time(now.time().hour(), now.time().minute(), now.time().second());
+    return QDateTime(now.date(), time, Qt::UTC);
 }
 
 double SecondsOfDay() {

@@ -1,6 +1,10 @@
 // Dates as text. Two spellings: the date text that the user reads and the settings keep, and the
 // ISO 8601 text to the second ("2026-11-24T13:45:07") in which the store keeps them, so that they
 // sort.
+//
+// A moment is what the clock on the wall shows, without a zone. It is carried as UTC, so that every
+// text is a valid moment, also in the hour that summer time leaves out; only moments made here are
+// compared with each other.
 #pragma once
 
 #include <QDate>
@@ -16,14 +20,15 @@ QString DateText(const QDateTime& moment);
 // The date alone, in the locale's short form with a four-digit year ("24/11/2026").
 QString ShortDateText(const QDate& date);
 
-// ISO 8601 local time to the second.
+// ISO 8601 to the second.
 QString StoredDateText(const QDateTime& moment);
 
 // Reads DateText, ShortDateText and ISO 8601 with "T" or a blank between date and time, with or
-// without a time. Nothing for anything else.
+// without a time or its seconds; days, months and hours may lack their leading zero. Nothing for
+// anything else.
 std::optional<QDateTime> ReadDate(QStringView text);
 
-// The clock of the whole program: local time to the second.
+// The clock of the whole program, to the second.
 QDateTime Now();
 
 // Seconds since midnight, with fractions.

@@ -2,11 +2,12 @@
 
 #include "platform/numbers.h"
 
+#include <ctime>
 #include <gtest/gtest.h>
 
 namespace {
 
-const QDateTime kMoment(QDate(2026, 4, 5), QTime(3, 45, 7));
+const QDateTime kMoment(QDate(2026, 4, 5), QTime(3, 45, 7), Qt::UTC);
 
 } // namespace
 
@@ -28,7 +29,7 @@ TEST(Dates, DateTextIsTheLocalesAndReadBackExactly) {
         UseNumberLocale(item.locale);
         EXPECT_EQ(DateText(kMoment).toStdString(), item.text);
         EXPECT_EQ(ReadDate(DateText(kMoment)), kMoment) << item.text;
-        EXPECT_EQ(ReadDate(ShortDateText(kMoment.date())), kMoment.date().startOfDay());
+        EXPECT_EQ(ReadDate(ShortDateText(kMoment.date())), kMoment.date().startOfDay(Qt::UTC));
         EXPECT_EQ(ReadDate(StoredDateText(kMoment)), kMoment) << item.text;
     }
     UseNumberLocale(QLocale::system());
@@ -56,4 +57,15 @@ TEST(Dates, OtherTextsAreNoDate) {
     EXPECT_EQ(ReadDate(u"2026-04-05 03:45:07"), kMoment);
     EXPECT_EQ(ReadDate(u"5/4/2026 3:45:07"), kMoment); // as older catalogues have it
     UseNumberLocale(QLocale::system());
+}
+
+TEST(Dates, HourThatSummerTimeLeavesOutIsKept) {
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "Europe/Madrid");
+    ::tzset();
+    const std::optional<QDateTime> moment = ReadDate(u"2026-03-29T02:30:00");
+    ASSERT_TRUE(moment && moment->isValid());
+    EXPECT_EQ(StoredDateText(*moment), "2026-03-29T02:30:00");
+    zone.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", zone);
+    ::tzset();
 }

@@ -55,7 +55,6 @@ TEST(Instance, KilledProcessFreesThePlaceAndItsSocketIsReplaced) {
     OtherProgram first;
     ASSERT_EQ(first.NextLine(), "held");
     first.Kill();
-    EXPECT_FALSE(RaiseRunningInstance());
     OtherProgram second;
     ASSERT_EQ(second.NextLine(), "held");
     EXPECT_TRUE(RaiseRunningInstance());

@@ -1,0 +1,70 @@
+// The maker of flavour files, run as a flavour's author runs it, and read back by the program.
+#include "core/flavour.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kPatience = 10000; // milliseconds
+
+class MakeSector : public testing::Test {
+protected:
+    void TearDown() override { LoadFlavour("/nowhere/"); }
+
+    QString Target() const { return home.filePath("sector.dat"); }
+
+    // Exit code; what the tool complains of goes to `complaint`.
+    int Run(const QString& lines) {
+        QProcess tool;
+        tool.start(MAKESECTOR, {lines, Target()});
+        EXPECT_TRUE(tool.waitForFinished(kPatience));
+        complaint = QString::fromUtf8(tool.readAllStandardError());
+        return tool.exitCode();
+    }
+
+    QString Written(const QByteArray& bytes) const {
+        QFile file(home.filePath("lines.txt"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+
+    QTemporaryDir home;
+    QString complaint;
+};
+
+} // namespace
+
+TEST_F(MakeSector, DeliveredLinesGiveTheRealEstateFlavour) {
+    ASSERT_EQ(Run(REAL_ESTATE_LINES), 0) << complaint.toStdString();
+    EXPECT_TRUE(LoadFlavour(home.path() + '/'));
+    EXPECT_TRUE(IsRealEstateFlavour());
+    EXPECT_EQ(AppName, "Zandora");
+    EXPECT_EQ(ProdSing, "Inmueble");
+    EXPECT_EQ(ProdPlur, "Inmuebles");
+    EXPECT_EQ(ProdGender, "M");
+    EXPECT_EQ(CategoryCaption, "Población-Zona");
+    EXPECT_TRUE(CategoryTip.contains("%PDETSING% %PRODSING%"));
+    EXPECT_EQ(LogoCaption, "[N/A]"); // the last line loses nothing to the cut byte
+}
+
+TEST_F(MakeSector, FaultyLinesAreNamedAndNothingIsWritten) {
+    const std::pair<QByteArray, const char*> cases[] = {
+        {"ZAND\nINMO\n3\n4\n5\nM\n7\n8\n", "tiene 8 líneas"},
+        {"ZAND\nINMO\n3\n4\n5\nM\n7\n8\n9\n10\n", "tiene 10 líneas"},
+        {"ZAND\nINMO\n\n4\n5\nM\n7\n8\n9\n", "la línea 3 está vacía"},
+        {"ZAND\nINMO\n日本\n4\n5\nM\n7\n8\n9\n", "la línea 3 tiene un carácter"},
+        {"ZANDO\nINMO\n3\n4\n5\nM\n7\n8\n9\n", "la línea 1 debe tener 4 caracteres"},
+        {"ZAND\nINMO\n\xF1\n4\n5\nM\n7\n8\n9\n", "no está en UTF-8"},
+    };
+    for (const auto& [lines, fault] : cases) {
+        EXPECT_EQ(Run(Written(lines)), 1) << fault;
+        EXPECT_TRUE(complaint.contains(fault)) << complaint.toStdString();
+        EXPECT_FALSE(QFile::exists(Target()));
+    }
+    EXPECT_EQ(Run(home.filePath("missing.txt")), 1);
+    EXPECT_TRUE(complaint.contains("no se puede leer")) << complaint.toStdString();
+}
