@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QVariant>
 
 namespace {
@@ -59,12 +60,14 @@ QString GroupName(const QObject* control) {
 }
 
 void EnableWhileBusy(const QString& excluded, bool enabled, QWidget* form) {
-    const QObjectList controls = form->findChildren<QObject*>();
-    for (QObject* control : controls) {
+    std::vector<QPointer<QObject>> controls; // some of the form's objects may go at a yield
+    for (QObject* control : form->findChildren<QObject*>()) {
         const QString name = GroupName(control);
-        if (name == excluded || !IsDisturbing(name)) {
-            continue;
+        if (name != excluded && IsDisturbing(name)) {
+            controls.emplace_back(control);
         }
+    }
+    for (const QPointer<QObject>& control : controls) {
         if (auto* widget = qobject_cast<QWidget*>(control)) {
             widget->setEnabled(enabled);
         } else if (auto* action = qobject_cast<QAction*>(control)) {

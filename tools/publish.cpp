@@ -39,10 +39,19 @@ QString Destination() {
                                         : StoragePath + "index.html";
 }
 
+// What the toolkit murmurs about windows that nobody sees doesn't belong on the terminal.
+void DropToolkitWarnings(QtMsgType type, const QMessageLogContext& /*context*/,
+                         const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        PrintLine(stderr, text);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(DropToolkitWarnings);
     Application application(argc, argv);
     if (argc > 1) {
         PrintLine(stderr,
