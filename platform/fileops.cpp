@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -20,7 +21,7 @@ namespace {
 constexpr mode_t kUsualMode = 0666; // less the user's mask
 constexpr mode_t kUserOnlyMode = 0600;
 constexpr mode_t kPermissionBits = 07777;
-constexpr size_t kCopyBytes = 256 * 1024;
+constexpr size_t kCopyBytes = size_t{256} * 1024;
 
 // Owns an open file descriptor; -1 is none.
 class Descriptor {
@@ -248,8 +249,9 @@ int TransferFiles(FileOp operation, const QStringList& files, const QString& des
             intoFolder ? WithSeparator(destination) + QFileInfo(file).fileName() : destination;
         const int failure = TransferFile(operation, file, target, askConfirmation);
         if (failure != 0 && operation == FileOp::Move) {
-            for (auto moved = done.rbegin(); moved != done.rend(); ++moved) {
-                MoveFile(moved->second, moved->first);
+            std::reverse(done.begin(), done.end());
+            for (const auto& [origin, moved] : done) {
+                MoveFile(moved, origin);
             }
         }
         if (failure != 0) {

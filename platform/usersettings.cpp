@@ -15,7 +15,7 @@
 namespace {
 
 // A file beyond it holds no settings of ours.
-constexpr qint64 kMaximumBytes = 16 * 1024 * 1024;
+constexpr qint64 kMaximumBytes = qint64{16} * 1024 * 1024;
 
 constexpr QStringView kDamagedSuffix = u".dañado-";
 
@@ -146,7 +146,7 @@ SettingsFile ReadFile(const QString& path) {
 
 QString FreeNameForDamaged(const QString& path) {
     for (int number = 1;; ++number) {
-        const QString name = path + kDamagedSuffix.toString() + QString::number(number);
+        QString name = path + kDamagedSuffix.toString() + QString::number(number);
         if (!QFileInfo::exists(name)) {
             return name;
         }
