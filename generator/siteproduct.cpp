@@ -36,8 +36,7 @@ SiteProduct SiteProductReader::Read() const {
 }
 
 QString SiteProductReader::PriceText() const {
-    const Cell& amount = products.Value(price);
-    return IsNull(amount) ? u"0"_s : CellText(amount);
+    return products.Text(price);
 }
 
 void ReplaceProductTags(TagText& text, const SiteProduct& row) {

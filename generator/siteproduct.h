@@ -21,7 +21,7 @@ class SiteProductReader {
 public:
     explicit SiteProductReader(const Recordset& products);
     SiteProduct Read() const;
-    QString PriceText() const; // the amount in plain decimal with "."; Null is "0"
+    QString PriceText() const; // the amount in plain decimal with "."; Null is empty
 
 private:
     const Recordset& products;

@@ -49,7 +49,7 @@ TEST_F(Lists, DataListHoldsEveryArrayInTheOrderOfTheProducts) {
         {"%%LISTPRODUCTREF%%", "'A\\'1','B2','C3' ", "'A\\'1','B2','C3' "},
         {"%%LISTSALEZONE%%", "'Centro','l\\'Eixample','' ", "'Centro','l\\'Eixample','' "},
         {"%%LISTSALEZONECODE%%", "'0','1','' ", "'0','1','' "},
-        {"%%LISTPRICEAMOUNT%%", "1234.5,0,0 ", "1234.5,0,0 "},
+        {"%%LISTPRICEAMOUNT%%", "1234.5,0, ", "1234.5,0, "},
         {"%%LISTMAINPICTUREID%%", "'nopicture','204','nopicture' ",
          "'nopicture','204','nopicture' "},
         {"%%LIST0%%", "'Verde','Rojo',", "'Green','Red',"},
