@@ -39,12 +39,23 @@ void Scroll(const AssistPanel& panel, int direction) {
     }
 }
 
+// As the user would type it, so that it counts as an edit.
+void TypeText(QWidget* box, const QString& text) {
+    if (auto* line = qobject_cast<QLineEdit*>(box)) {
+        line->selectAll();
+        line->insert(text);
+    } else if (auto* lines = qobject_cast<QPlainTextEdit*>(box)) {
+        lines->selectAll();
+        lines->insertPlainText(text);
+    }
+}
+
 void TakeOver(const AssistPanel& panel) {
     QWidget* box = panel.boxes.at(static_cast<std::size_t>(Tag(panel.fraLangAssist).toInt()));
     const QString text = panel.lblToTranslate->text();
     panel.fraLangAssist->hide();
     box->setFocus();
-    SetControlText(box, text);
+    TypeText(box, text);
     QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
     QApplication::sendEvent(box, &tab);
 }

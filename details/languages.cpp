@@ -3,6 +3,7 @@
 #include "core/settings.h"
 #include "forms/mainform.h"
 #include "platform/controls.h"
+#include "platform/storeerror.h"
 #include "store/languages.h"
 #include "store/langvalues.h"
 
@@ -23,11 +24,22 @@ void DressButton(QToolButton* button, const QString& code) {
     button->setChecked(!code.isEmpty() && code == UICurrentLang);
 }
 
+void MarkLanguage(const std::vector<QToolButton*>& optLang) {
+    for (QToolButton* button : optLang) {
+        button->setChecked(Tag(button) == UICurrentLang);
+    }
+}
+
 void optLang_Click(const QToolButton* button) {
     if (!LangButtonsReady || Tag(button) == UICurrentLang) {
         return;
     }
-    SaveProductLangIfChanged();
+    try {
+        SaveProductLangIfChanged();
+    } catch (const StoreError&) {
+        MarkLanguage(frmMain->optLang); // the texts on screen stay those of the old language
+        throw;
+    }
     SetUICurrentLang(Tag(button));
     LoadProductLangValues();
 }

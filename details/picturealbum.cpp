@@ -1,5 +1,6 @@
 #include "details/picturealbum.h"
 
+#include "core/flavour.h"
 #include "core/settings.h"
 #include "core/vocabulary.h"
 #include "details/assistance.h"
@@ -76,6 +77,7 @@ void DeleteCurrentPicture() {
     const int position = Rows().AbsolutePosition();
     AddDeletedItem("I", frmPictures->txtPictureId->text());
     DeletePicture();
+    EmptyThumbnail(position - 1);
     LoadThumbnails();
     ShowCurrentPicture(CurrentSlot());
     UpdateAlbumToolbar(CurrentSlot());
@@ -173,8 +175,24 @@ void Form_Activate() {
     UpdateAlbumToolbar(CurrentSlot());
 }
 
-void Form_Unload() {
-    SavePictureIfChanged();
+// False if the picture could not be saved and the user would rather stay.
+bool SaveBeforeEnd() {
+    try {
+        SavePictureIfChanged();
+        return true;
+    } catch (const StoreError& error) {
+        return MsgBox("No se han podido guardar los últimos cambios: " + error.Text() +
+                          "\n\n¿Desea salir sin guardarlos?",
+                      BoxIcon::Warning, BoxButtons::YesNo, BoxAnswer::No,
+                      AppName) == BoxAnswer::Yes;
+    }
+}
+
+void Form_Unload(bool& cancel) {
+    cancel = !SaveBeforeEnd();
+    if (cancel) {
+        return;
+    }
     frmMain->txtPicture->setText(
         QString(Messages[0]).replace("%1", QString::number(Rows().RecordCount())));
     ForgetPictureFolder();

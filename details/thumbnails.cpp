@@ -12,6 +12,7 @@
 #include "store/store.h"
 
 #include <QFileInfo>
+#include <QHash>
 
 namespace {
 
@@ -28,6 +29,28 @@ PictureBox* Thumbnail(int slot) {
 
 bool IsDamaged(int slot) {
     return Thumbnail(slot)->toolTip() == kDamagedTip;
+}
+
+struct SlotContent {
+    QPixmap picture;
+    QString tip;
+};
+
+// What the slots show, by file name.
+QHash<QString, SlotContent> SlotContents() {
+    QHash<QString, SlotContent> contents;
+    for (const PictureBox* box : frmPictures->imgPicPreview) {
+        if (!Tag(box).isEmpty()) {
+            contents[Tag(box)] = {box->pixmap(Qt::ReturnByValue), box->toolTip()};
+        }
+    }
+    return contents;
+}
+
+void FillSlot(int slot, const QString& name, const SlotContent& content) {
+    Thumbnail(slot)->setPixmap(content.picture);
+    Thumbnail(slot)->setToolTip(content.tip);
+    SetTag(Thumbnail(slot), name);
 }
 
 void EmptySlot(int slot) {
@@ -59,9 +82,6 @@ void EmptyLargeView(const QString& size, const QString& tip) {
 } // namespace
 
 void LoadThumbnails() {
-    for (int slot = 0; slot < static_cast<int>(frmPictures->imgPicPreview.size()); ++slot) {
-        EmptySlot(slot);
-    }
     Recordset& pictures = adcData[kCursorPictures];
     const int current = pictures.AbsolutePosition();
     QStringList names;
@@ -69,13 +89,23 @@ void LoadThumbnails() {
         names.push_back(pictures.Text(u"PicturePath"));
     }
     pictures.SetAbsolutePosition(current);
-    for (int slot = 0;
-         slot < std::min<int>(int(names.size()), int(frmPictures->imgPicPreview.size())); ++slot) {
-        if (!names[slot].isEmpty()) {
-            LoadThumbnail(slot, names[slot]);
+    const auto slotCount = static_cast<int>(frmPictures->imgPicPreview.size());
+    const QHash<QString, SlotContent> loaded = SlotContents();
+    for (int slot = 0; slot < slotCount; ++slot) {
+        const QString name = slot < names.size() ? names[slot] : QString();
+        if (name.isEmpty()) {
+            EmptySlot(slot);
+        } else if (loaded.contains(name)) {
+            FillSlot(slot, name, loaded[name]);
+        } else {
+            LoadThumbnail(slot, name);
             DoEvents();
         }
     }
+}
+
+void EmptyThumbnail(int slot) {
+    EmptySlot(slot);
 }
 
 void LoadThumbnail(int slot, const QString& name) {

@@ -3,8 +3,12 @@
 
 #include <QString>
 
-// Empties all slots, then loads the pictures of cursor 3 in order.
+// Shows the pictures of cursor 3 in order. What a slot shows already is not read again, so a
+// picture whose file has changed under its name goes through LoadThumbnail.
 void LoadThumbnails();
+
+// Nothing is shown in the slot: its picture's file is going.
+void EmptyThumbnail(int slot);
 
 // Loads one picture from the store's folder into a slot (from 0); a file that is missing or damaged
 // shows as such, with a warning that says how to mend it.

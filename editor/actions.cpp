@@ -15,6 +15,7 @@
 #include "forms/mainform.h"
 #include "platform/dialogs.h"
 #include "store/products.h"
+#include "store/store.h"
 
 namespace {
 
@@ -43,8 +44,29 @@ void SaveListedProduct() {
 void AddNewProduct() {
     SaveListedProduct();
     ClearProductForm();
-    AddProduct();
+    try {
+        AddProduct();
+    } catch (const StoreError&) {
+        LoadSelectedProduct(); // nothing was added: the selected product is shown again
+        throw;
+    }
     AppendNewProductRow();
+}
+
+// After a save that did not leave the product: takes its row again. False if another user has been
+// quicker, who shows as such.
+bool HoldProduct() {
+    switch (ReopenProduct()) {
+    case ProductState::Held:
+        return true;
+    case ProductState::ReadOnly:
+        RefreshButtons();
+        return false;
+    case ProductState::Gone:
+        TellProductGone();
+        return false;
+    }
+    return false;
 }
 
 void DeleteCurrentProduct() {
@@ -52,9 +74,17 @@ void DeleteCurrentProduct() {
                Messages[kMessageDeleteTitle]) != BoxAnswer::Yes) {
         return;
     }
+    if (!HoldProduct()) {
+        return;
+    }
     AddDeletedItem("P", frmMain->txtProductId->text());
     const bool featured = frmMain->cboIsNew->currentIndex() == kStatusFeatured;
-    DeleteProduct();
+    try {
+        DeleteProduct();
+    } catch (const StoreError&) {
+        LoadSelectedProduct(); // nothing was deleted: the product is opened again
+        throw;
+    }
     if (featured) {
         --FeaturedCount;
     }
@@ -62,8 +92,14 @@ void DeleteCurrentProduct() {
 }
 
 void ToggleSearch() {
-    SaveListedProduct();
-    if (frmMain->Button("Search")->isChecked()) {
+    QAction* search = frmMain->Button("Search");
+    try {
+        SaveListedProduct();
+    } catch (const StoreError&) {
+        search->toggle(); // nothing was searched
+        throw;
+    }
+    if (search->isChecked()) {
         ShowSearch();
     } else {
         FilterProductList({});
@@ -110,7 +146,10 @@ void ChooseOutput(const QString& parentKey, int action) {
 void cmdPictures_Click() {
     const QString lang = UICurrentLang;
     SaveCurrentProduct();
-    ReopenProduct(); // what the album changes stamps the product, so its row is held meanwhile
+    // What the album changes stamps the product, so its row is held meanwhile.
+    if (!HoldProduct() && !ProductIsReadOnly()) {
+        return; // it is gone
+    }
     ShowPictureAlbum();
     ReturnToLanguage(lang);
 }

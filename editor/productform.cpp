@@ -118,26 +118,41 @@ bool MayReplaceOldest() {
            BoxAnswer::Yes;
 }
 
-void ReplaceOldest() {
+// False if another user has taken the product or deleted it.
+bool ReplaceOldest() {
     const QString productId = frmMain->txtProductId->text();
+    if (ReopenProduct() != ProductState::Held) {
+        return false;
+    }
     SaveProduct(false);
     DemoteOldestFeatured();
     int position = 1;
     RefreshProductList(position, productId, false);
     // The refill has counted this product already.
     SetTag(frmMain->cboIsNew, QString::number(frmMain->cboIsNew->currentIndex()));
+    return true;
+}
+
+// Puts the choice back to the status that was last accepted, and returns it.
+int RestoreStatus() {
+    const FillingGuard filling;
+    const int status = Tag(frmMain->cboIsNew).toInt();
+    frmMain->cboIsNew->setCurrentIndex(status);
+    return status;
 }
 
 void SetProductStatus(int status) {
-    ServeEvents();
-    if (status == kStatusFeatured && FeaturedCount >= TemplMaxEmph) {
-        if (MayReplaceOldest()) {
-            ReplaceOldest();
-        } else {
-            const FillingGuard filling;
-            status = Tag(frmMain->cboIsNew).toInt();
-            frmMain->cboIsNew->setCurrentIndex(status);
-        }
+    {
+        const InputHold hold;
+        ServeEvents();
+    }
+    if (ProductIsReadOnly()) {
+        RestoreStatus();
+        return;
+    }
+    const bool full = status == kStatusFeatured && FeaturedCount >= TemplMaxEmph;
+    if (full && !(MayReplaceOldest() && ReplaceOldest())) {
+        status = RestoreStatus();
     }
     MarkListRow(SelectedRow(), status);
     SetTag(frmMain->cboIsNew, QString::number(status));
@@ -278,9 +293,9 @@ void ClearProductForm() {
     SetTag(frmMain->cboIsNew, QString::number(kStatusPublished));
     LoadProductLangValues();
     LoadPictures();
-    if (NewProductPending) {
-        ParkCursor(kCursorProduct);
-    }
+    // What the boxes hold now belongs to no row.
+    ParkCursor(kCursorTexts);
+    ParkCursor(kCursorProduct);
     frmMain->fraReadOnly->hide();
 }
 

@@ -1,7 +1,7 @@
 // The product editor: clearing it, and what its boxes do while the user types.
 #pragma once
 
-// Empties all controls; a new product still pending loses its row lock.
+// Empties all controls and lets the row of the product go.
 void ClearProductForm();
 
 // Moves the focus from slot `index` to what the user sees of the next one, or on to the short

@@ -62,6 +62,10 @@ int RowOfProduct(const QString& productId) {
     return found == ProductIds.end() ? -1 : static_cast<int>(found - ProductIds.begin());
 }
 
+bool EditorIsListed() {
+    return RowOfProduct(frmMain->txtProductId->text()) >= 0;
+}
+
 // A save that fails keeps the product on screen: its row is selected again before the failure is
 // told.
 void SaveBeforeLeaving() {
@@ -91,6 +95,20 @@ void lstProductList_RowClick() {
     RefreshButtons();
 }
 
+// A mouse press that selects another row has been served when its click arrives.
+bool pressServed = false;
+
+void lstProductList_RowChanged() {
+    pressServed = QGuiApplication::mouseButtons() != Qt::NoButton;
+    lstProductList_RowClick();
+}
+
+void lstProductList_Clicked() {
+    if (!std::exchange(pressServed, false)) {
+        lstProductList_RowClick();
+    }
+}
+
 void lstProductList_ColumnClick(int column) {
     QString noted;
     if (ListRowCount() > 0) {
@@ -109,23 +127,34 @@ void lstProductList_ColumnClick(int column) {
 }
 
 // Another user's inserts and deletes show up, but only while no search is on: then the counts
-// differ by nature.
+// differ by nature. A tick during a dialog, or in the middle of a load or a save, is passed over:
+// the next one comes in a minute.
 void tmrListRefresh_Timer() {
+    if (QApplication::activeModalWidget() != nullptr || InputIsHeld() || !StoreOpen) {
+        return;
+    }
     RunQuery(kCursorScratch, kProductCountStatement);
     const auto count = CellInteger(adcData[kCursorScratch].Value(0));
     if (count == ListRowCount() || frmMain->Button("Search")->isChecked()) {
         return;
     }
     int position = 1;
-    const QString shown = frmMain->txtProductId->text();
-    RefreshProductList(position, shown, true);
-    if (RowOfProduct(shown) < 0 && ListRowCount() > 0) {
-        LoadSelectedProduct(); // the one in the editor was deleted
+    RefreshProductList(position, frmMain->txtProductId->text(), true);
+}
+
+// A statement that can't be run leaves the cursor parked, and the list as it was.
+void RunListQuery(const QString& statement) {
+    try {
+        RunQuery(kCursorList, statement);
+    } catch (const StoreError&) {
+        ParkCursor(kCursorList);
+        throw;
     }
 }
 
 // Reads all rows of cursor 2; `position` becomes the row of `productId`.
 void ReadRows(int& position, const QString& productId) {
+    const InputHold hold;
     Recordset& products = adcData[kCursorList];
     std::vector<ProductRow> rows;
     std::vector<int> ids;
@@ -169,7 +198,7 @@ void SortProductList(int selector, int column, bool ascending) {
     }
     statement += QStringLiteral(" %1 %2 %3")
                      .arg(kOrderBy, kSortNames.at(column), ascending ? "ASC" : "DESC");
-    RunQuery(kCursorList, statement);
+    RunListQuery(statement);
 }
 
 void FilterProductList(const QString& filter) {
@@ -182,7 +211,7 @@ void FilterProductList(const QString& filter) {
     if (order >= baseEnd) {
         statement += CurrentListSQL.mid(order);
     }
-    RunQuery(kCursorList, statement.trimmed());
+    RunListQuery(statement.trimmed());
     CurrentListSQL = adcData[kCursorList].Source();
 }
 
@@ -199,7 +228,9 @@ void RefreshProductList(int& position, QString productId, bool keepEditor) {
         productId = BuildListQuery();
     } else {
         ReleaseCurrent();
-        RunQuery(kCursorList, ListIsParked() ? CurrentListSQL : adcData[kCursorList].Source());
+        if (ListIsParked()) {
+            RunListQuery(CurrentListSQL);
+        }
         clear = productId.isEmpty() || productId != frmMain->txtProductId->text();
     }
     FeaturedCount = 0;
@@ -210,7 +241,7 @@ void RefreshProductList(int& position, QString productId, bool keepEditor) {
     CurrentListSQL = adcData[kCursorList].Source();
     ParkCursor(kCursorList); // the list on screen keeps no rows of the store
     SelectRow(position - 1);
-    if (!keepEditor && clear) {
+    if ((!keepEditor && clear) || !EditorIsListed()) {
         LoadSelectedProduct();
     }
     RefreshButtons();
@@ -266,6 +297,7 @@ void MarkListRow(int row, int status) {
 void LoadSelectedProduct() {
     const int row = SelectedRow();
     if (row < 0) {
+        ClearProductForm();
         return;
     }
     if (LoadProduct(QString::number(ProductIds[row])) == ProductState::Gone) {
@@ -283,7 +315,8 @@ void ConnectProductList() {
     list->header()->setSortIndicatorShown(true);
     list->header()->setSortIndicator(SortColumn, Qt::AscendingOrder);
     QObject::connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, frmMain,
-                     lstProductList_RowClick);
+                     lstProductList_RowChanged);
+    QObject::connect(list, &QAbstractItemView::clicked, frmMain, lstProductList_Clicked);
     QObject::connect(list->header(), &QHeaderView::sectionClicked, frmMain,
                      lstProductList_ColumnClick);
     QObject::connect(list, &QAbstractItemView::doubleClicked, frmMain,
@@ -293,6 +326,16 @@ void ConnectProductList() {
     QObject::connect(deleteKey, &QShortcut::activated, frmMain,
                      [] { frmMain->Button("Del")->trigger(); });
     QObject::connect(frmMain->tmrListRefresh, &QTimer::timeout, frmMain, tmrListRefresh_Timer);
+}
+
+void ResetProductList() {
+    ProductIds.clear();
+    CurrentListSQL.clear();
+    SelectedRef.clear();
+    SortColumn = 0;
+    SortDescending = false;
+    FeaturedCount = 0;
+    NewProductPending = false;
 }
 
 int ListRowCount() {

@@ -57,9 +57,12 @@ void TellProductGone();
 // Connects the list's clicks and keys and the refresh timer.
 void ConnectProductList();
 
-// Fills the editor from the selected row; a product that another user has deleted is told and taken
-// out of the list.
+// Fills the editor from the selected row, or empties it without one; a product that another user
+// has deleted is told and taken out of the list.
 void LoadSelectedProduct();
+
+// The state above as at start: for another catalogue in place of this one.
+void ResetProductList();
 
 int ListRowCount();
 int SelectedRow(); // from 0; -1 when the list is empty

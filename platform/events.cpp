@@ -9,6 +9,8 @@ namespace {
 // Since the last serving; not started before the first one.
 QElapsedTimer lastServed;
 
+int holds = 0; // InputHolds that live
+
 } // namespace
 
 void DoEvents() {
@@ -18,7 +20,8 @@ void DoEvents() {
 }
 
 void ServeEvents() {
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(holds > 0 ? QEventLoop::ExcludeUserInputEvents
+                                              : QEventLoop::AllEvents);
     lastServed.start();
 }
 
@@ -30,4 +33,16 @@ void WaitForEvents(int milliseconds) {
     limit.start(milliseconds);
     loop.processEvents(QEventLoop::WaitForMoreEvents);
     lastServed.start();
+}
+
+InputHold::InputHold() {
+    ++holds;
+}
+
+InputHold::~InputHold() {
+    --holds;
+}
+
+bool InputIsHeld() {
+    return holds > 0;
 }

@@ -94,19 +94,21 @@ Cell Statement::Column(int column) const {
                              sqlite3_column_bytes(prepared.get(), column));
 }
 
-Transaction::Transaction(sqlite3* handle) : connection(handle) {
-    RunOrThrow(connection, "BEGIN IMMEDIATE");
+Transaction::Transaction(sqlite3* handle)
+    : connection(handle), outermost(sqlite3_get_autocommit(handle) != 0) {
+    RunOrThrow(connection, outermost ? "BEGIN IMMEDIATE" : "SAVEPOINT inner");
     open = true;
 }
 
 Transaction::~Transaction() {
     // The engine has rolled back by itself after some failures (disk full).
     if (open && sqlite3_get_autocommit(connection) == 0) {
-        sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
+        const char* const undo = outermost ? "ROLLBACK" : "ROLLBACK TO inner; RELEASE inner";
+        sqlite3_exec(connection, undo, nullptr, nullptr, nullptr);
     }
 }
 
 void Transaction::Commit() {
-    RunOrThrow(connection, "COMMIT");
+    RunOrThrow(connection, outermost ? "COMMIT" : "RELEASE inner");
     open = false;
 }

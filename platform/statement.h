@@ -38,7 +38,8 @@ private:
 };
 
 // Everything between the constructor and Commit is written as a whole or, without Commit, not at
-// all. The store is locked for writing from the start (kErrBusy).
+// all. The store is locked for writing from the start (kErrBusy). One that begins within another is
+// part of it: its rows stand or fall with the outer one.
 class Transaction {
 public:
     explicit Transaction(sqlite3* handle);
@@ -50,5 +51,6 @@ public:
 
 private:
     sqlite3* connection;
+    bool outermost = false;
     bool open = false;
 };

@@ -62,6 +62,7 @@ void DressPublicSlot(int slot, const Recordset& row) {
     const QString caption = TaggedText(row.Text(u"Caption"), kFormLanguage, 0);
     const QString tip = row.Text(u"ToolTipText");
     frmMain->lblFields[slot]->setText(caption + ":");
+    frmMain->shpFields[slot]->setEnabled(true);
     for (QWidget* control : {static_cast<QWidget*>(frmMain->lblFields[slot]),
                              static_cast<QWidget*>(frmMain->txtFields[slot]),
                              static_cast<QWidget*>(frmMain->chkFields[slot]),

@@ -19,11 +19,16 @@ constexpr char kProducts[] = "Products";
 constexpr char kPictures[] = "Pictures";
 constexpr char kCorpInfo[] = "CorpInfo";
 
+// The last save of the set on screen failed: its rows in the cursor are as the boxes, those in the
+// store aren't. False again once it is saved or another set selected.
+bool saveFailed = false;
+
 Recordset& Rows() {
     return adcData[kCursorTexts];
 }
 
 void SelectTexts(const QString& tableName, const QString& itemId, const QString& langCode) {
+    saveFailed = false;
     RunQuery(kCursorTexts, QString(kTextsStatement)
                                .replace("%1", tableName)
                                .replace("%2", itemId)
@@ -68,6 +73,7 @@ void SaveTexts(const std::vector<QWidget*>& boxes) {
     if (Rows().RecordCount() == 0) {
         return;
     }
+    saveFailed = true; // until the rows are written
     Rows().MoveFirst();
     for (const QWidget* box : boxes) {
         if (!Rows().HasRow()) {
@@ -80,13 +86,16 @@ void SaveTexts(const std::vector<QWidget*>& boxes) {
     Rows().MoveFirst();
     Rows().Update();
     WaitForCursor(Rows());
+    saveFailed = false;
 }
 
 } // namespace
 
 void LoadProductLangValues() {
-    if (frmMain->lstProductList->model()->rowCount() > 0) {
-        LoadTexts(kProducts, frmMain->txtProductId->text());
+    // A cleared form has no item whose rows could be made.
+    const QString productId = frmMain->txtProductId->text();
+    if (frmMain->lstProductList->model()->rowCount() > 0 && !productId.isEmpty()) {
+        LoadTexts(kProducts, productId);
     }
 }
 
@@ -115,6 +124,10 @@ void SaveCorpLangValues() {
 void CreateLangRows(const QString& tableName, const QString& itemId, const QString& langCode) {
     const FillingGuard filling;
     SelectTexts(tableName, itemId, langCode);
+    while (Rows().RecordCount() > 0) { // left behind by an item that had this number before
+        Rows().MoveFirst();
+        Rows().Delete();
+    }
     const std::vector<QWidget*> boxes = BoxesOf(tableName);
     for (int text = 0; text < TextCountOf(tableName); ++text) {
         Rows().AddNew();
@@ -135,13 +148,19 @@ void SaveProductLangIfChanged() {
     if (!frmMain->fraReadOnly->isHidden()) {
         return;
     }
+    const InputHold hold;
     if (LangValuesDiffer(frmMain->txtMLFields)) {
         SaveProductLangValues();
         TouchLastUpdate(Touched::Product);
+    } else {
+        Rows().Update(); // empty rows of a language that was only looked at
     }
 }
 
 bool LangValuesDiffer(const std::vector<QWidget*>& boxes) {
+    if (saveFailed || !Rows().IsOpen()) {
+        return saveFailed;
+    }
     Rows().MoveFirst();
     for (const QWidget* box : boxes) {
         if (!Rows().HasRow()) {

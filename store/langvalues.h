@@ -34,8 +34,9 @@ void SaveCorpLangValues();
 void CreateLangRows(const QString& tableName, const QString& itemId, const QString& langCode);
 
 // Saves the product's texts and stamps it if a box differs from its row; nothing while read-only.
+// Without a difference only rows that are new are written.
 void SaveProductLangIfChanged();
 
-// Whether a box of the screen differs from its row on cursor 5. A Null differs from nothing: it
-// becomes text with the first save.
+// Whether a box of the screen differs from its row on cursor 5, or the last save of them failed. A
+// Null differs from nothing: it becomes text with the first save.
 bool LangValuesDiffer(const std::vector<QWidget*>& boxes);

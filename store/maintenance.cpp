@@ -2,10 +2,10 @@
 
 #include "core/settings.h"
 #include "platform/fileops.h"
+#include "platform/presence.h"
 #include "platform/storeengine.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
@@ -16,29 +16,40 @@ constexpr char kBackupEnding[] = ".bak";
 
 int CompactStore(const QString& path) {
     const QString temporary = path + kTemporaryEnding;
-    if (QFile::exists(temporary)) {
-        FileOperation(FileOp::Delete, {temporary}, {});
-    }
     try {
-        const auto store = StoreConnection::Open(path);
-        if (store->OpenElsewhere()) {
+        auto store = StoreConnection::Open(path);
+        const StoreClaim alone(path);
+        if (!alone.Held()) {
             return kErrBusy;
         }
+        if (QFile::exists(temporary)) {
+            FileOperation(FileOp::Delete, {temporary}, {});
+        }
         store->CompactInto(temporary);
+        store.reset();
+        const int moved = FileOperation(FileOp::Move, {path}, path + kBackupEnding);
+        return moved != 0 ? moved : FileOperation(FileOp::Rename, {temporary}, path);
     } catch (const StoreError& error) {
         return error.number;
     }
-    const int moved = FileOperation(FileOp::Move, {path}, path + kBackupEnding);
-    return moved != 0 ? moved : FileOperation(FileOp::Rename, {temporary}, path);
+}
+
+void FinishCompaction(const QString& path) {
+    const bool cutOff = !QFile::exists(path) && QFile::exists(path + kBackupEnding) &&
+                        QFile::exists(path + kTemporaryEnding);
+    if (cutOff && StoreClaim(path).Held()) {
+        FileOperation(FileOp::Rename, {path + kTemporaryEnding}, path);
+    }
 }
 
 MoveResult MoveStoreFiles(const QString& newFolder) {
-    try {
-        if (StoreConnection::Open(DBpath + DBname)->OpenElsewhere()) {
-            return MoveResult::InUse;
-        }
-    } catch (const StoreError&) {
+    const QString path = DBpath + DBname;
+    if (!QFile::exists(path)) {
         return MoveResult::Failed;
+    }
+    const StoreClaim alone(path);
+    if (!alone.Held()) {
+        return MoveResult::InUse;
     }
     if (FileOperation(FileOp::Move, {WithSeparator(DBpath) + "*.*"}, newFolder) != 0) {
         return MoveResult::Failed;

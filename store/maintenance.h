@@ -10,6 +10,10 @@
 // store open, otherwise another number.
 int CompactStore(const QString& path);
 
+// Before a store is opened: a compaction that was cut off between putting the old file aside and
+// the finished copy in its place is ended. Does nothing else.
+void FinishCompaction(const QString& path);
+
 enum class MoveResult { Moved, InUse, Failed };
 
 // Moves every file of the store's folder, pictures and backup included, and makes that folder the

@@ -10,6 +10,8 @@
 #include "platform/events.h"
 #include "platform/fileops.h"
 #include "platform/numbers.h"
+#include "platform/statement.h"
+#include "platform/storeengine.h"
 #include "store/langvalues.h"
 #include "store/store.h"
 
@@ -32,6 +34,9 @@ constexpr int kMessageLimit = 7;
 
 // Of the last picture chosen; empty when the album closes.
 QString lastPicFolder;
+
+// The last save of the current picture failed, so that a comparison would find nothing to save.
+bool saveFailed = false;
 
 Recordset& Rows() {
     return adcData[kCursorPictures];
@@ -109,7 +114,19 @@ void DropNewRow(int position) {
     }
 }
 
-// Closes the gap that the picture at place `order` has left.
+// Reads the rows anew and shows the one of a picture, or the first.
+void ShowRowOf(const QString& pictureId) {
+    Rows().Requery();
+    while (Rows().HasRow() && Rows().Text(u"PictureId") != pictureId) {
+        Rows().MoveNext();
+    }
+    if (!Rows().HasRow()) {
+        Rows().MoveFirst();
+    }
+    ShowPictureRecord();
+}
+
+// Closes the gap that the picture at place `order` leaves.
 void CloseGap(const QString& productId, qint64 order) {
     RunQuery(
         kCursorScratch,
@@ -134,9 +151,23 @@ void DeleteTexts(const QString& pictureId) {
     WaitForCursor(texts);
 }
 
+// The current row with its texts, and its place in the order: all of it or nothing, so that the
+// order never has a gap.
+void DeleteRow(const QString& productId, const QString& pictureId, qint64 order) {
+    Transaction transaction(Rows().Connection()->Handle());
+    Rows().Delete();
+    Rows().Update();
+    if (order < Rows().RecordCount()) {
+        CloseGap(productId, order);
+    }
+    DeleteTexts(pictureId);
+    transaction.Commit();
+}
+
 } // namespace
 
 void LoadPictures() {
+    saveFailed = false;
     const double productId = LeadingNumber(frmMain->txtProductId->text());
     RunQuery(kCursorPictures,
              QString(kPicturesStatement).replace("%1", QString::number(productId, 'f', 0)));
@@ -146,6 +177,7 @@ void LoadPictures() {
 }
 
 void ShowPictureRecord() {
+    saveFailed = false;
     if (!Rows().HasRow()) {
         ClearPictureBoxes();
         return;
@@ -174,7 +206,7 @@ void SavePictureIfChanged() {
     if (ReadOnly() || !Rows().HasRow() || frmPictures->txtOrderInForm->text().isEmpty()) {
         return;
     }
-    if (LangValuesDiffer(frmPictures->txtMLFields) || RowDiffers()) {
+    if (saveFailed || LangValuesDiffer(frmPictures->txtMLFields) || RowDiffers()) {
         SavePicture();
     }
 }
@@ -183,6 +215,8 @@ void SavePicture() {
     if (ReadOnly()) {
         return;
     }
+    const InputHold hold;
+    saveFailed = true; // until the texts are written, too
     Rows().Set(u"ProdPictureId", NumberIn(frmPictures->txtProdPictureId));
     Rows().Set(u"ProductId", NumberIn(frmPictures->txtProductId));
     Rows().Set(u"PictureId", NumberIn(frmPictures->txtPictureId));
@@ -193,6 +227,7 @@ void SavePicture() {
     Rows().Update();
     WaitForCursor(Rows());
     SavePictureLangValues();
+    saveFailed = false;
 }
 
 PictureResult AddPicture(const QString& path) {
@@ -207,10 +242,15 @@ PictureResult AddPicture(const QString& path) {
     WaitForCursor(Rows());
     NumberNewRow();
     const PictureResult result = ChangePictureFile(path);
-    if (result == PictureResult::Done) {
-        CommitNewRow();
-    } else {
+    if (result != PictureResult::Done) {
         DropNewRow(position);
+        return result;
+    }
+    try {
+        CommitNewRow();
+    } catch (const StoreError&) {
+        DropNewRow(position);
+        throw;
     }
     return result;
 }
@@ -235,35 +275,35 @@ PictureResult ChangePictureFile(const QString& path) {
 }
 
 void DeletePicture() {
+    const InputHold hold;
     const QString productId = frmPictures->txtProductId->text();
     const QString pictureId = frmPictures->txtPictureId->text();
-    const qint64 order = NumberIn(frmPictures->txtOrderInForm);
-    FileOperation(FileOp::Delete, {DBpath + frmPictures->txtPicturePath->text()}, {});
+    const QString file = frmPictures->txtPicturePath->text();
     if (Rows().HasRow() && !Rows().IsNull(u"PictureId")) {
-        Rows().Delete();
-        Rows().Update();
-        Rows().Requery();
-        WaitForCursor(Rows());
-        if (order < Rows().RecordCount()) {
-            CloseGap(productId, order);
+        try {
+            DeleteRow(productId, pictureId, NumberIn(frmPictures->txtOrderInForm));
+        } catch (const StoreError&) {
+            ShowRowOf(pictureId); // nothing was deleted
+            throw;
         }
         TouchLastUpdate(Touched::Product);
     }
+    if (!file.isEmpty()) {
+        FileOperation(FileOp::Delete, {DBpath + file}, {});
+    }
     Rows().Requery();
-    Rows().MoveFirst();
-    DeleteTexts(pictureId);
     ClearPictureBoxes();
     ShowPictureRecord();
 }
 
 void MovePicture(int from, int to) {
+    const InputHold hold;
     SavePictureIfChanged();
     Rows().SetAbsolutePosition(from);
     Rows().Set(u"OrderInForm", qint64{to - 1});
-    Rows().Update();
     Rows().SetAbsolutePosition(to);
     Rows().Set(u"OrderInForm", qint64{from - 1});
-    Rows().Update();
+    Rows().Update(); // both at once: two pictures never share a place
     Rows().Requery();
     WaitForCursor(Rows());
     Rows().SetAbsolutePosition(to);

@@ -7,6 +7,8 @@
 #include "platform/events.h"
 #include "platform/fileops.h"
 #include "platform/numbers.h"
+#include "platform/statement.h"
+#include "platform/storeengine.h"
 #include "store/fielddefs.h"
 #include "store/formstate.h"
 #include "store/langvalues.h"
@@ -20,6 +22,7 @@ namespace {
 constexpr char kProductStatement[] = "SELECT * FROM Products WHERE ProductId = %1";
 constexpr char kFieldsStatement[] =
     "SELECT * FROM ProductFields WHERE ProductId = %1 ORDER BY FieldDefId";
+constexpr char kPicturesStatement[] = "SELECT * FROM Pictures WHERE ProductId = %1";
 constexpr char kAllTextsStatement[] =
     "SELECT * FROM MultiLangFields WHERE (TableName='Products' AND ItemId='%1') OR "
     "(TableName='Pictures' AND ItemId like '%1%')";
@@ -31,6 +34,11 @@ constexpr char kOldestFeaturedStatement[] =
 
 constexpr char kCurrency[] = "EUR"; // the only one in this system
 constexpr char16_t kFormPrice[] = u"#,##0.00";
+
+// A save of the product on screen failed half way: the cursors hold what the boxes hold, but the
+// store doesn't, so a comparison would find nothing to save. False once the product is saved or
+// another one opened.
+bool saveFailed = false;
 
 Recordset& Product() {
     return adcData[kCursorProduct];
@@ -54,6 +62,7 @@ QString StoredDate(const QString& shown) {
 // the lock or fails, and changes nothing.
 ProductState OpenRow(const QString& productId) {
     RunQuery(kCursorProduct, QString(kProductStatement).replace("%1", productId));
+    saveFailed = false;
     try {
         Product().Set(u"PriceCurrency", QString(kCurrency));
     } catch (const StoreError& error) {
@@ -156,11 +165,16 @@ FieldChanges CompareFields() {
     return changes;
 }
 
+// A price that is no number yet is kept in its box alone: the user is still to be asked for it.
+bool PriceDiffers() {
+    const QString typed = frmMain->txtPriceAmount->text();
+    return IsNumeric(typed) && Product().Number(u"PriceAmount") != ParseNumber(typed);
+}
+
 bool ProductRowDiffers() {
     const Recordset& row = Product();
     return row.IsNull(u"LastUpdate") ||
-           ShownDate(row.Text(u"LastUpdate")) != frmMain->txtLastUpdate->text() ||
-           row.Number(u"PriceAmount") != ParseNumber(frmMain->txtPriceAmount->text()) ||
+           ShownDate(row.Text(u"LastUpdate")) != frmMain->txtLastUpdate->text() || PriceDiffers() ||
            row.Integer(u"IsNew") != frmMain->cboIsNew->currentIndex() ||
            row.Text(u"SaleZone") != frmMain->txtZone->text() ||
            row.Text(u"PriceCurrency") != frmMain->txtPriceCurrency->text() ||
@@ -168,43 +182,51 @@ bool ProductRowDiffers() {
            row.Text(u"ProductRef") != frmMain->txtProductRef->text();
 }
 
+// Committed by the caller's Update.
 void DeleteAllRows(Recordset& cursor) {
     for (int left = cursor.RecordCount(); left > 0; --left) {
         cursor.MoveFirst();
         cursor.Delete();
         DoEvents();
     }
-    cursor.Update();
-    WaitForCursor(cursor);
 }
 
-void DeletePictureRows() {
+QStringList PictureFiles() {
+    QStringList files;
     Recordset& pictures = adcData[kCursorPictures];
-    while (pictures.RecordCount() > 0) {
-        pictures.MoveFirst();
-        FileOperation(FileOp::Delete, {DBpath + pictures.Text(u"PicturePath")}, {});
-        pictures.Delete();
+    for (pictures.MoveFirst(); pictures.HasRow(); pictures.MoveNext()) {
+        files += pictures.Text(u"PicturePath");
     }
-    pictures.Update();
-    WaitForCursor(pictures);
+    files.removeAll(QString());
+    return files;
 }
 
-void CreateProductRow(const QString& productId) {
-    if (Product().Source().isEmpty()) {
-        ParkCursor(kCursorProduct);
+void DeleteFiles(const QStringList& names) {
+    for (const QString& name : names) {
+        FileOperation(FileOp::Delete, {DBpath + name}, {});
     }
-    Product().AddNew();
-    Product().Set(u"ProductId", productId.toLongLong());
-    Product().Set(u"ProductRef", frmMain->txtProductRef->text());
-    Product().Set(u"PriceCurrency", QString(kCurrency));
-    Product().Update();
-    WaitForCursor(Product());
 }
 
-void CreateFieldRows(const QString& productId) {
+void OpenChildRows(const QString& productId) {
+    RunQuery(kCursorFields, QString(kFieldsStatement).replace("%1", productId));
+    RunQuery(kCursorTexts, QString(kAllTextsStatement).replace("%1", productId));
+    RunQuery(kCursorPictures, QString(kPicturesStatement).replace("%1", productId));
+}
+
+// Writes what is pending on the cursors of a product's rows: all of it or, when the program is cut
+// off or the disk is full, nothing. So no product is ever left without its fields, and none without
+// its own row.
+void CommitTogether(std::initializer_list<StoreCursor> cursors) {
+    Transaction transaction(Product().Connection()->Handle());
+    for (const StoreCursor cursor : cursors) {
+        adcData[cursor].Update();
+    }
+    transaction.Commit();
+}
+
+void AddFieldRows(const QString& productId) {
     RunQuery(kCursorScratch, kFieldDefCountStatement);
     const auto count = static_cast<int>(CellInteger(adcData[kCursorScratch].Value(0)));
-    RunQuery(kCursorFields, QString(kFieldsStatement).replace("%1", productId));
     for (int field = 0; field < count; ++field) {
         const QString value = IsSlot(field) ? SlotDefault(field) : QString();
         AddFieldRow(productId, field, value);
@@ -213,7 +235,35 @@ void CreateFieldRows(const QString& productId) {
         }
         DoEvents();
     }
+}
+
+// The row and its fields, without whatever an older program has left behind under this number: it
+// would appear as the new product's.
+void CreateRows(const QString& productId) {
+    ParkCursor(kCursorProduct); // lets the product before go
+    Product().AddNew();
+    Product().Set(u"ProductId", productId.toLongLong());
+    Product().Set(u"ProductRef", frmMain->txtProductRef->text());
+    Product().Set(u"PriceCurrency", QString(kCurrency));
+    OpenChildRows(productId);
+    for (const StoreCursor cursor : {kCursorFields, kCursorTexts, kCursorPictures}) {
+        DeleteAllRows(adcData[cursor]);
+    }
+    AddFieldRows(productId);
+    CommitTogether({kCursorProduct, kCursorFields, kCursorTexts, kCursorPictures});
+    WaitForCursor(Product());
     Fields().MoveFirst();
+}
+
+void WriteProductRow() {
+    Product().Set(u"ProductId", frmMain->txtProductId->text().toLongLong());
+    Product().Set(u"ProductRef", frmMain->txtProductRef->text());
+    Product().Set(u"SaleZone", frmMain->txtZone->text());
+    if (IsNumeric(frmMain->txtPriceAmount->text())) {
+        Product().Set(u"PriceAmount", ParseNumber(frmMain->txtPriceAmount->text()));
+    }
+    Product().Set(u"PriceCurrency", frmMain->txtPriceCurrency->text());
+    Product().Set(u"IsNew", qint64{frmMain->cboIsNew->currentIndex()});
 }
 
 } // namespace
@@ -224,6 +274,7 @@ ProductState LoadProduct(const QString& productId) {
         return state;
     }
     const FillingGuard filling;
+    const InputHold hold;
     FillProductBoxes();
     LoadProductFields(productId);
     LoadProductLangValues();
@@ -244,6 +295,8 @@ ProductState ReopenProduct() {
 
 void AddProduct() {
     const FillingGuard filling;
+    const InputHold hold;
+    saveFailed = false;
     RunQuery(kCursorScratch, kNextIdStatement);
     const Cell& next = adcData[kCursorScratch].Value(0);
     const QString productId = IsNull(next) ? QString::number(kFirstProductId) : CellText(next);
@@ -254,21 +307,18 @@ void AddProduct() {
     frmMain->cboIsNew->setCurrentIndex(kStatusPublished);
     SetTag(frmMain->cboIsNew, QString::number(kStatusPublished));
 
-    CreateProductRow(productId);
-    CreateFieldRows(productId);
+    CreateRows(productId);
     CreateLangRows("Products", productId, UICurrentLang);
+    LoadPictures();
 }
 
 void SaveProduct(bool internalOnly) {
     if (ProductIsReadOnly()) {
         return;
     }
-    Product().Set(u"ProductId", frmMain->txtProductId->text().toLongLong());
-    Product().Set(u"ProductRef", frmMain->txtProductRef->text());
-    Product().Set(u"SaleZone", frmMain->txtZone->text());
-    Product().Set(u"PriceAmount", ParseNumber(frmMain->txtPriceAmount->text()));
-    Product().Set(u"PriceCurrency", frmMain->txtPriceCurrency->text());
-    Product().Set(u"IsNew", qint64{frmMain->cboIsNew->currentIndex()});
+    const InputHold hold;
+    saveFailed = true; // until the last row is written
+    WriteProductRow();
     SaveProductFields();
     SaveProductLangValues();
     if (!internalOnly) {
@@ -277,6 +327,7 @@ void SaveProduct(bool internalOnly) {
     Product().Set(u"LastUpdate", StoredDate(frmMain->txtLastUpdate->text()));
     Product().Update();
     WaitForCursor(Product());
+    saveFailed = false;
     ParkCursor(kCursorProduct);
 }
 
@@ -288,7 +339,7 @@ void SaveCurrentProduct() {
     if (!changes.open) {
         changes.open = LangValuesDiffer(frmMain->txtMLFields);
     }
-    if (changes.open || ProductRowDiffers()) {
+    if (saveFailed || changes.open || ProductRowDiffers()) {
         SaveProduct(false);
     } else if (changes.internal) {
         SaveProduct(true);
@@ -296,17 +347,19 @@ void SaveCurrentProduct() {
 }
 
 void DeleteProduct() {
-    const QString productId = frmMain->txtProductId->text();
+    const InputHold hold;
+    saveFailed = false;
+    OpenChildRows(frmMain->txtProductId->text());
+    const QStringList files = PictureFiles();
     if (Product().HasRow() && !Product().IsNull(u"ProductId")) {
         Product().Delete();
-        Product().Update();
-        Product().Requery();
-        WaitForCursor(Product());
     }
-    DeleteAllRows(Fields());
-    RunQuery(kCursorTexts, QString(kAllTextsStatement).replace("%1", productId));
-    DeleteAllRows(adcData[kCursorTexts]);
-    DeletePictureRows();
+    for (const StoreCursor cursor : {kCursorFields, kCursorTexts, kCursorPictures}) {
+        DeleteAllRows(adcData[cursor]);
+    }
+    CommitTogether({kCursorProduct, kCursorFields, kCursorTexts, kCursorPictures});
+    ParkCursor(kCursorProduct);
+    DeleteFiles(files);
 }
 
 void DemoteOldestFeatured() {

@@ -28,18 +28,20 @@ ProductState LoadProduct(const QString& productId);
 // stands.
 ProductState ReopenProduct();
 
-// Creates a product with its rows in the store and shows it in the form, already cleared. True if
-// it can be edited; its number is in txtProductId.
+// Creates a product with its rows in the store, all of them or none, and shows it in the form,
+// already cleared; its number is in txtProductId.
 void AddProduct();
 
 // Form to store; nothing while read-only. An internal save leaves LastUpdate alone. Field and text
-// rows commit first, the product's row last, then the row lock is given back.
+// rows commit first, the product's row last, then the row lock is given back. After a failure the
+// product stays open, and the next SaveCurrentProduct writes it again whatever a comparison says.
 void SaveProduct(bool internalOnly);
 
 // Compares form and store and saves what differs. Every screen calls it when it leaves a product.
 void SaveCurrentProduct();
 
-// Removes the open product's rows, texts and picture files. The list row is the caller's.
+// Removes the open product's rows and texts, all of them or none, then its picture files. The list
+// row is the caller's. kErrNoCurrentRow or kErrRowLocked when another user was quicker.
 void DeleteProduct();
 
 // The featured product with the earliest LastUpdate becomes an ordinary one, stamped with now;

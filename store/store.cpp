@@ -9,6 +9,7 @@
 #include "platform/events.h"
 #include "platform/process.h"
 #include "platform/storeengine.h"
+#include "store/maintenance.h"
 
 std::array<Recordset, kCursorCount + 1> adcData;
 bool StoreOpen = false;
@@ -19,6 +20,7 @@ namespace {
 constexpr char kFieldDefsStatement[] = "SELECT * FROM ProductFieldDef ORDER BY FieldDefId";
 
 void OpenCursors() {
+    FinishCompaction(DBpath + DBname);
     const auto connection = StoreConnection::Open(DBpath + DBname);
     for (int index = 1; index <= kCursorCount; ++index) {
         adcData[index] = Recordset();

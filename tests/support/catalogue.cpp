@@ -14,11 +14,12 @@ namespace {
 
 // Table and columns of each kind of line.
 const QHash<QString, QString> kKinds = {
-    {"def", "ProductFieldDef (FieldDefId, Type, Caption, Choices)"},
+    {"def", "ProductFieldDef (FieldDefId, Type, Caption, Choices, DefaultValue)"},
     {"product",
      "Products (ProductId, ProductRef, PriceAmount, IsNew, SaleZone, LastUpdate, PriceCurrency)"},
     {"field", "ProductFields (ProductId, FieldDefId, FieldValue)"},
     {"picture", "Pictures (ProductId, ProdPictureId, OrderInForm, PictureId, PicturePath)"},
+    {"language", "Languages (LangCode, Caption, Priority)"},
     {"textdef", "MultiLangFieldDef (TableName, FieldDefId, FieldName)"},
     {"text", "MultiLangFields (TableName, ItemId, LangCode, FieldDefId, FieldValue)"}};
 

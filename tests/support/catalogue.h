@@ -3,10 +3,11 @@
 //
 // One row a line: what it is, then its values, separated by ";". Blanks around a value don't count,
 // missing values and NULL are Null.
-//   def; FieldDefId; Type; Caption; Choices
+//   def; FieldDefId; Type; Caption; Choices; DefaultValue
 //   product; ProductId; ProductRef; PriceAmount; IsNew; SaleZone; LastUpdate
 //   field; ProductId; FieldDefId; FieldValue
 //   picture; ProductId; ProdPictureId; OrderInForm
+//   language; LangCode; Caption; Priority
 //   textdef; TableName; FieldDefId; FieldName
 //   text; TableName; ItemId; LangCode; FieldDefId; FieldValue
 //   corp; column of the company's row; value

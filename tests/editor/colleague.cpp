@@ -1,0 +1,186 @@
+// Another copy of the program on a shared store, driven by lines on its standard input; it answers
+// each with one line. Started with the store's folder; says "ready" when the list is filled.
+//
+//   select ID         opens the product: "held", "readonly" or "missing"
+//   type BOX TEXT     types over a box of the main form: "shown TEXT", what the box holds then
+//   save              leaves the product by a click on its row: "saved", or "failed TEXT"
+//   add               "added ID"
+//   delete            deletes the product in the editor: "deleted ID" or "refused"
+//   picture PATH      adds a picture to the product in the editor: "picture ID"
+//   unpicture         deletes its first picture: "unpicture ID"
+//   compact           closes the store, compacts and opens it: "compacted CODE"
+//   arm N             the process dies at its N-th write from here on (killer.cpp): "armed"
+//   random SEED N     N random edits (twousers_test.cpp): their outcomes, a line each, then "done"
+#include "core/settings.h"
+#include "editor/productlist.h"
+#include "forms/mainform.h"
+#include "forms/picturesform.h"
+#include "platform/controls.h"
+#include "platform/notify.h"
+#include "platform/storeerror.h"
+#include "store/maintenance.h"
+#include "store/picturerecords.h"
+#include "store/products.h"
+#include "store/store.h"
+#include "tests/support/boxes.h"
+#include "tests/support/program.h"
+
+#include <QTemporaryDir>
+#include <dlfcn.h>
+#include <iostream>
+#include <random>
+#include <string>
+
+namespace {
+
+constexpr int kRandomProducts = 12; // products that random edits meet at
+
+QString Select(const QString& id) {
+    const auto found = std::find(ProductIds.begin(), ProductIds.end(), id.toInt());
+    if (found == ProductIds.end()) {
+        return "missing";
+    }
+    ClickRow(static_cast<int>(found - ProductIds.begin()));
+    if (frmMain->txtProductId->text() != id) {
+        return "missing";
+    }
+    return ProductIsReadOnly() ? "readonly" : "held";
+}
+
+QString TypeInto(const QString& name, const QString& text) {
+    auto* box = frmMain->findChild<QWidget*>(name);
+    Type(box, text);
+    return "shown " + ControlText(box);
+}
+
+// Whatever the program tells in a box is the answer.
+QString Save() {
+    const BoxAnswers answers;
+    ClickRow(frmMain->SelectedRow());
+    return answers.seen.empty() ? "saved" : "failed " + answers.Texts();
+}
+
+QString Add() {
+    ClickTool("Add");
+    return "added " + frmMain->txtProductId->text();
+}
+
+QString Delete() {
+    const BoxAnswers answers(QMessageBox::Yes);
+    const QString id = frmMain->txtProductId->text();
+    const int before = ListRowCount();
+    ClickTool("Del");
+    return ListRowCount() < before ? "deleted " + id : QString("refused");
+}
+
+QString AddFile(const QString& path) {
+    PicturesForm album(frmMain);
+    LoadPictures();
+    AddPicture(path);
+    return "picture " + album.txtPictureId->text();
+}
+
+QString DeleteFile() {
+    PicturesForm album(frmMain);
+    LoadPictures();
+    ShowPictureRecord();
+    const QString id = album.txtPictureId->text();
+    DeletePicture();
+    return "unpicture " + id;
+}
+
+QString Compact() {
+    ReleaseCurrent();
+    CloseStore();
+    const int code = CompactStore(DBpath + DBname);
+    return OpenStore() == 0 ? "compacted " + QString::number(code) : QString("lost");
+}
+
+QString Arm(int writes) {
+    using ArmKiller = void (*)(int);
+    auto* arm = reinterpret_cast<ArmKiller>(dlsym(RTLD_DEFAULT, "ArmKiller"));
+    if (arm == nullptr) {
+        return "no killer";
+    }
+    arm(writes);
+    return "armed";
+}
+
+void Say(const QString& answer) {
+    std::cout << answer.toStdString() << std::endl;
+}
+
+// Edits the title of one of the shared products: "ID TEXT" once that is in the store, "ID -" where
+// another user has it.
+void RandomEdits(unsigned seed, int count) {
+    std::mt19937 random(seed);
+    for (int edit = 0; edit < count; ++edit) {
+        const QString id = QString::number(10001 + int(random() % kRandomProducts));
+        if (Select(id) != u"held") {
+            Say(id + " -");
+            continue;
+        }
+        const QString text = QString("%1.%2").arg(seed).arg(edit);
+        Type(frmMain->txtMLFields[0], text);
+        Type(frmMain->txtFields[0], text);
+        const QString outcome = Save();
+        Say(outcome == u"saved" ? id + ' ' + text : id + " ! " + outcome);
+    }
+}
+
+QString Obey(const QStringList& words) {
+    const QString rest = words.mid(1).join(u' ');
+    if (words[0] == u"select") {
+        return Select(rest);
+    }
+    if (words[0] == u"type") {
+        return TypeInto(words[1], words.mid(2).join(u' '));
+    }
+    if (words[0] == u"save") {
+        return Save();
+    }
+    if (words[0] == u"add") {
+        return Add();
+    }
+    if (words[0] == u"delete") {
+        return Delete();
+    }
+    if (words[0] == u"picture") {
+        return AddFile(rest);
+    }
+    if (words[0] == u"unpicture") {
+        return DeleteFile();
+    }
+    if (words[0] == u"compact") {
+        return Compact();
+    }
+    if (words[0] == u"arm") {
+        return Arm(rest.toInt());
+    }
+    RandomEdits(words[1].toUInt(), words[2].toInt());
+    return "done";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    Application application(argc, argv);
+    LoadSettings();
+    StartScreens(QString::fromLocal8Bit(argv[1]));
+    Say("ready");
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        try {
+            Say(Obey(QString::fromStdString(line).split(u' ')));
+        } catch (const StoreError& error) {
+            Say("failed " + error.Text());
+        }
+    }
+    EndScreens();
+    return 0;
+}

@@ -1,0 +1,219 @@
+#include "tests/support/program.h"
+
+#include "core/flavour.h"
+#include "core/settings.h"
+#include "core/vocabulary.h"
+#include "details/languages.h"
+#include "editor/mainscreen.h"
+#include "editor/productlist.h"
+#include "forms/mainform.h"
+#include "platform/numbers.h"
+#include "platform/storeengine.h"
+#include "store/fielddefs.h"
+#include "store/languages.h"
+#include "store/store.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QHeaderView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+const char kSmallCatalogue[] = R"(
+    language; ES; Español; 1
+    language; EN; Inglés; 2
+    def; 0; T; ESColor#ENColour; ; blanco
+    def; 1; B; ESNuevo#ENNew; ; 1
+    def; 2; O; ESTalla#ENSize; ESPequeña#ENSmall|ESGrande#ENLarge; 1
+    def; 3; I; Coste; ; 0
+    def; 4; I; Notas
+    product; 10001; A-1; 10.5; 0; Norte; 2024-01-01T10:00:00
+    product; 10002; B-2; 2000; 1; Sur; 2024-01-02T10:00:00
+    product; 10003; C-3; 30; 2; L'Eixample; 2024-01-03T10:00:00
+    field; 10001; 0; rojo
+    field; 10001; 1; 0
+    field; 10001; 2; 0
+    field; 10001; 3; 5
+    field; 10001; 4; frágil
+    field; 10002; 0; azul
+    field; 10002; 1; 1
+    field; 10002; 2; 1
+    field; 10002; 3; 6
+    field; 10002; 4; pesado
+    field; 10003; 0; gris
+    field; 10003; 1; 0
+    field; 10003; 2; 0
+    field; 10003; 3; 7
+    field; 10003; 4; caro
+    text; Products; 10001; ES; 0; Silla
+    text; Products; 10001; ES; 1; De pino
+    text; Products; 10001; ES; 2; Asientos
+    text; Products; 10001; EN; 0; Chair
+    text; Products; 10001; EN; 1; Pine
+    text; Products; 10001; EN; 2; Seats
+    text; Products; 10002; ES; 0; Mesa
+    text; Products; 10002; ES; 1; De roble
+    text; Products; 10002; ES; 2; Mesas
+    text; Products; 10003; ES; 0; Banco
+    text; Products; 10003; ES; 1; De haya
+    text; Products; 10003; ES; 2; Asientos)";
+
+namespace {
+
+// The flavour file of the agencies, as the program reads it.
+QByteArray AgencyFile() {
+    QByteArray bytes = "ZAND\r\nINMO\r\nZandora\r\nInmueble\r\nInmuebles\r\nM\r\nZona\r\nZona del "
+                       "inmueble\r\n[N/A]\r\n";
+    for (char& byte : bytes) {
+        byte = static_cast<char>(~byte);
+    }
+    return bytes + '\0';
+}
+
+void ChooseTrade(Trade trade) {
+    QTemporaryDir folder;
+    if (trade == Trade::RealEstate) {
+        QFile file(folder.filePath("sector.dat"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(AgencyFile());
+    }
+    LoadFlavour(folder.path() + u'/');
+}
+
+QString FieldText(const Recordset& row, int column) {
+    return IsNull(row.Value(column)) ? QStringLiteral("NULL") : row.Text(column);
+}
+
+} // namespace
+
+void StartScreens(const QString& folder, Trade trade) {
+    UseNumberLocale(QLocale(QLocale::Spanish, QLocale::Spain));
+    ChooseTrade(trade);
+    SetStoreFolder(folder);
+    SetUserLangs("ES|EN", "ES");
+    SetUICurrentLang("ES");
+    ResetProductList();
+    new MainForm;
+    ConnectMainScreen();
+    ApplyCaptions(frmMain);
+    BuildMessages();
+    ASSERT_EQ(OpenStore(), 0);
+    LoadLanguages();
+    ArrangeLangButtons(frmMain->fraLang, frmMain->optLang);
+    frmMain->AddListColumn("ProductRef", "Ref.", 600, false);
+    frmMain->AddListColumn("ShortDesc", "Descripción breve", 2325, false);
+    frmMain->AddListColumn("PriceAmount", "Precio", 930, true);
+    LoadFieldDefs();
+    RefreshProductList();
+    frmMain->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(frmMain));
+}
+
+void EndScreens() {
+    CloseStore();
+    delete frmMain;
+    ResetProductList();
+}
+
+TestProgram::TestProgram(const QString& rows, Trade trade)
+    : catalogue(std::make_unique<TestCatalogue>(rows)) {
+    StartScreens(catalogue->Folder(), trade);
+}
+
+TestProgram::~TestProgram() {
+    EndScreens();
+}
+
+void Type(QWidget* box, const QString& text) {
+    box->setFocus();
+    QTest::keySequence(box, QKeySequence::SelectAll);
+    if (text.isEmpty()) {
+        QTest::keyClick(box, Qt::Key_Delete);
+    }
+    TypeOn(box, text);
+}
+
+void TypeOn(QWidget* box, const QString& text) {
+    for (const QChar character : text) {
+        const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
+        QTest::sendKeyEvent(QTest::Click, box, key, QString(character), Qt::NoModifier);
+    }
+}
+
+void PressKey(QWidget* box, int key) {
+    QTest::keyClick(box, static_cast<Qt::Key>(key));
+}
+
+void Click(QWidget* control) {
+    QTest::mouseClick(control, Qt::LeftButton);
+}
+
+void ClickRow(int row) {
+    QTreeView* list = frmMain->lstProductList;
+    const QRect cell = list->visualRect(list->model()->index(row, 0));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
+}
+
+void ClickHeader(int column) {
+    const QHeaderView* header = frmMain->lstProductList->header();
+    const QPoint middle(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
+                        header->height() / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, middle);
+}
+
+void ClickTool(const QString& key) {
+    QAction* button = frmMain->Button(key);
+    QWidget* shown = frmMain->tlbProducts->widgetForAction(button);
+    if (shown != nullptr && shown->isVisible()) {
+        QTest::mouseClick(shown, Qt::LeftButton);
+    } else {
+        button->trigger(); // beyond the window's width
+    }
+}
+
+QString ListText() {
+    QStringList rows;
+    const ProductListModel& list = *frmMain->productList;
+    for (int row = 0; row < list.RowCount(); ++row) {
+        rows += list.Text(row, 0) + u';' + list.Text(row, 1) + u';' + list.Text(row, 2);
+    }
+    return rows.join(u'|');
+}
+
+QString Stored(const QString& statement) {
+    Recordset cursor;
+    cursor.SetConnection(adcData[kCursorScratch].Connection());
+    cursor.SetSource(statement);
+    cursor.Open();
+    QStringList rows;
+    for (; cursor.HasRow(); cursor.MoveNext()) {
+        QStringList fields;
+        for (int column = 0; column < cursor.ColumnCount(); ++column) {
+            fields += FieldText(cursor, column);
+        }
+        rows += fields.join(u';');
+    }
+    return rows.join(u'|');
+}
+
+void ChangeStore(const QString& statements) {
+    adcData[kCursorScratch].Connection()->Execute(statements);
+}
+
+void WhenDialogOpens(const std::function<void()>& act) {
+    constexpr int kLookAgain = 5; // milliseconds
+    auto* clock = new QTimer(frmMain);
+    QObject::connect(clock, &QTimer::timeout, frmMain, [clock, act] {
+        const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr || !dialog->isVisible()) {
+            return;
+        }
+        clock->deleteLater();
+        clock->stop();
+        act();
+        if (dialog != nullptr && dialog->isVisible()) {
+            dialog->close();
+        }
+    });
+    clock->start(kLookAgain);
+}
