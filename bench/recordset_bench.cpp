@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kProducts = 10000;
 constexpr int kFirstProduct = 10001;
+constexpr int kFilters = 1000; // different ones in turn
 
 constexpr char kTables[] =
     "CREATE TABLE Products (ProductId INTEGER PRIMARY KEY, ProductRef TEXT COLLATE SPANISH,"
@@ -124,7 +125,8 @@ void FilterTextsOfOneProduct(benchmark::State& state) {
     Recordset texts = Cursor(kTexts);
     texts.SetFilter("TableName = '' AND ItemId = '' AND LangCode = '' AND FieldDefId = ''");
     std::vector<QString> filters;
-    for (int product = 0; product < 1000; ++product) {
+    filters.reserve(kFilters);
+    for (int product = 0; product < kFilters; ++product) {
         filters.push_back(QStringLiteral("TableName = 'Products' AND ItemId = '%1' AND LangCode = "
                                          "'EN' AND FieldDefId = '%2'")
                               .arg(kFirstProduct + product * 7)
@@ -143,7 +145,8 @@ void FilterTextsOfOneProduct(benchmark::State& state) {
 void FilterByProductId(benchmark::State& state) {
     Recordset products = Cursor("SELECT * FROM Products");
     std::vector<QString> filters;
-    for (int product = 0; product < 1000; ++product) {
+    filters.reserve(kFilters);
+    for (int product = 0; product < kFilters; ++product) {
         filters.push_back(QStringLiteral("ProductId = %1").arg(kFirstProduct + product * 7));
     }
     products.SetFilter(filters[0]);

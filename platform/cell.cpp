@@ -41,7 +41,7 @@ Cell NumberFromText(const QString& text) {
 }
 
 Cell ConvertToInteger(const Cell& value) {
-    const Cell number =
+    Cell number =
         std::holds_alternative<QString>(value) ? NumberFromText(std::get<QString>(value)) : value;
     const auto* real = std::get_if<double>(&number);
     if (real != nullptr && *real == std::trunc(*real) && *real >= kLowest && *real < kBeyond) {
@@ -51,7 +51,7 @@ Cell ConvertToInteger(const Cell& value) {
 }
 
 Cell ConvertToReal(const Cell& value) {
-    const Cell number =
+    Cell number =
         std::holds_alternative<QString>(value) ? NumberFromText(std::get<QString>(value)) : value;
     const auto* whole = std::get_if<qint64>(&number);
     return whole != nullptr ? Cell(static_cast<double>(*whole)) : number;

@@ -156,11 +156,15 @@ private:
 constexpr quint64 kHashStart = 0xCBF29CE484222325;  // FNV-1a, 64 bits
 constexpr quint64 kHashFactor = 0x00000100000001B3; // (http://www.isthe.com/chongo/tech/comp/fnv)
 
-quint64 AddToHash(quint64 hash, QStringView text) {
-    for (const QChar character : text) {
-        hash = (hash ^ Folded(character)) * kHashFactor;
+quint64 HashOf(std::span<const QStringView> texts) {
+    quint64 hash = kHashStart;
+    for (const QStringView text : texts) {
+        for (const QChar character : text) {
+            hash = (hash ^ Folded(character)) * kHashFactor;
+        }
+        hash = (hash ^ 0xFFFF) * kHashFactor; // keeps ("ab", "c") apart from ("a", "bc")
     }
-    return (hash ^ 0xFFFF) * kHashFactor; // keeps ("ab", "c") apart from ("a", "bc")
+    return hash;
 }
 
 size_t PlaceOf(quint64 hash, size_t size) {
@@ -216,10 +220,12 @@ FilterIndex::FilterIndex(const ResultSet& result, std::span<const int> rows,
             continue;
         }
         size_t place = 0;
-        int group = FindGroup(result, texts, place);
+        const quint64 hash = HashOf(texts);
+        int group = FindGroup(result, texts, hash, place);
         if (group == kNoGroup) {
             group = static_cast<int>(firstRows.size());
             places[place] = group;
+            hashes.push_back(hash);
             firstRows.push_back(row);
             sizes.push_back(0);
         }
@@ -241,7 +247,7 @@ FilterIndex::FilterIndex(const ResultSet& result, std::span<const int> rows,
 std::span<const int> FilterIndex::Find(const ResultSet& result,
                                        std::span<const QStringView> texts) const {
     size_t place = 0;
-    const int group = FindGroup(result, texts, place);
+    const int group = FindGroup(result, texts, HashOf(texts), place);
     if (group == kNoGroup) {
         return {};
     }
@@ -251,21 +257,18 @@ std::span<const int> FilterIndex::Find(const ResultSet& result,
 
 // `place` is left at the group's place in the hash table, or at the free one where it would go.
 int FilterIndex::FindGroup(const ResultSet& result, std::span<const QStringView> texts,
-                           size_t& place) const {
-    quint64 hash = kHashStart;
-    for (const QStringView text : texts) {
-        hash = AddToHash(hash, text);
-    }
+                           quint64 hash, size_t& place) const {
     KeyText key;
     for (place = PlaceOf(hash, places.size()); places[place] != kNoGroup;
          place = (place + 1) & (places.size() - 1)) {
-        const Cell* row = result.rows.Row(firstRows[places[place]]);
-        bool equal = true;
+        const int group = places[place];
+        bool equal = hashes[group] == hash;
+        const Cell* row = result.rows.Row(firstRows[group]);
         for (size_t column = 0; equal && column < columns.size(); ++column) {
             equal = EqualFolded(key.Of(row[columns[column]]), texts[column]);
         }
         if (equal) {
-            return places[place];
+            return group;
         }
     }
     return kNoGroup;

@@ -36,10 +36,12 @@ public:
     std::span<const int> Find(const ResultSet& result, std::span<const QStringView> texts) const;
 
 private:
-    int FindGroup(const ResultSet& result, std::span<const QStringView> texts, size_t& place) const;
+    int FindGroup(const ResultSet& result, std::span<const QStringView> texts, quint64 hash,
+                  size_t& place) const;
 
     std::vector<int> columns;
     std::vector<int> places;     // hash table: group number or -1, sized to a power of two
+    std::vector<quint64> hashes; // of each group
     std::vector<int> firstRows;  // of each group, for the comparison
     std::vector<int> groupStart; // of each group in groupedRows, and the end of the last
     std::vector<int> groupedRows;

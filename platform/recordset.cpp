@@ -17,6 +17,19 @@ constexpr int kNoRow = -1;
     throw StoreError(kErrNoCurrentRow, QStringLiteral("No hay ningún registro actual"));
 }
 
+// What SetFilter works with, kept for its memory between calls.
+struct FilterScratch {
+    struct Key {
+        int column;
+        QStringView text;
+    };
+    std::vector<FilterTerm> terms;
+    std::vector<QString> buffers; // of the terms' texts
+    std::vector<Key> keys;
+    std::vector<int> columns;
+    std::vector<QStringView> texts;
+};
+
 } // namespace
 
 struct Recordset::Data {
@@ -34,7 +47,7 @@ struct Recordset::Data {
     std::vector<int> ownView;  // the filter's rows once the indexes are gone
     std::span<const int> view; // the filter's rows: in an index or in ownView
     std::vector<std::unique_ptr<FilterIndex>> indexes;
-    std::vector<FilterTerm> terms; // scratch of SetFilter, kept for its memory
+    FilterScratch scratch;
 
     int position = kNoRow;    // of the current row among the rows let through, from 0
     int afterDelete = kNoRow; // where MoveNext goes after a Delete
@@ -249,30 +262,29 @@ bool Recordset::HasRow() const {
 
 void Recordset::SetFilter(const QString& filter) {
     d->RequireOpen();
-    ParseFilter(filter, d->terms);
-    if (d->terms.empty()) {
+    FilterScratch& scratch = d->scratch;
+    ParseFilter(filter, scratch.terms);
+    if (scratch.terms.empty()) {
         d->filtered = false;
         d->MoveTo(0);
         return;
     }
-    struct Key {
-        int column;
-        QStringView text;
-    };
-    std::vector<QString> buffers(d->terms.size());
-    std::vector<Key> keys;
-    for (size_t term = 0; term < d->terms.size(); ++term) {
-        keys.push_back({Column(d->terms[term].column), TermText(d->terms[term], buffers[term])});
+    const size_t terms = scratch.terms.size();
+    scratch.buffers.resize(terms);
+    scratch.keys.clear();
+    for (size_t term = 0; term < terms; ++term) {
+        scratch.keys.push_back({Column(scratch.terms[term].column),
+                                TermText(scratch.terms[term], scratch.buffers[term])});
     }
-    std::sort(keys.begin(), keys.end(),
-              [](const Key& left, const Key& right) { return left.column < right.column; });
-    std::vector<int> columns;
-    std::vector<QStringView> texts;
-    for (const Key& key : keys) {
-        columns.push_back(key.column);
-        texts.push_back(key.text);
+    std::sort(scratch.keys.begin(), scratch.keys.end(),
+              [](const auto& left, const auto& right) { return left.column < right.column; });
+    scratch.columns.clear();
+    scratch.texts.clear();
+    for (const FilterScratch::Key& key : scratch.keys) {
+        scratch.columns.push_back(key.column);
+        scratch.texts.push_back(key.text);
     }
-    d->view = d->IndexOver(columns).Find(d->result, texts);
+    d->view = d->IndexOver(scratch.columns).Find(d->result, scratch.texts);
     d->filtered = true;
     d->MoveTo(0);
 }

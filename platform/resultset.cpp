@@ -28,21 +28,13 @@ Statement Prepare(sqlite3* handle, const StatementText& text, bool& hasRowId) {
 
 std::vector<ResultColumn> DescribeColumns(sqlite3_stmt* statement, int count) {
     std::vector<ResultColumn> columns;
+    columns.reserve(count);
     for (int column = 0; column < count; ++column) {
         columns.push_back({QString::fromUtf8(sqlite3_column_name(statement, column)),
                            QByteArray(sqlite3_column_origin_name(statement, column)),
                            AffinityOf(sqlite3_column_decltype(statement, column))});
     }
     return columns;
-}
-
-QByteArray TableOf(sqlite3_stmt* statement, int columns) {
-    for (int column = 0; column < columns; ++column) {
-        if (const char* table = sqlite3_column_table_name(statement, column)) {
-            return table;
-        }
-    }
-    return {};
 }
 
 // Short texts that come again in the same column (codes, table names, zones) share one copy, which
@@ -125,8 +117,8 @@ ResultSet ReadResult(const StoreConnection& connection, const QString& text) {
     const int columns = sqlite3_column_count(handle) - (hasRowId ? 1 : 0);
     result.columns = DescribeColumns(handle, columns);
     result.rows = CellRows(result.columns.size());
-    if (hasRowId) {
-        result.table = TableOf(handle, columns);
+    if (hasRowId) { // which a view answers with Null, belonging to no table
+        result.table = sqlite3_column_table_name(handle, columns);
         hasRowId = !result.table.isEmpty();
     }
     ReadRows(statement, result, hasRowId);

@@ -54,6 +54,21 @@ TEST(Recordset, ReadsTypesAndNamesWithoutRegardToCase) {
     EXPECT_EQ(store.Rows("SELECT x'C3B1', '', 1e300 = 1e300"), "ñ,,1");
 }
 
+TEST(Recordset, EachOfManyRowsKeepsItsOwnTexts) {
+    StoreFixture store;
+    store.Connection()->Execute(
+        "WITH RECURSIVE n(i) AS (VALUES(0) UNION ALL SELECT i+1 FROM n WHERE i<2999)"
+        " INSERT INTO Texts SELECT 'Muchos', i % 400, i, substr('ñandú y más', 1, i % 12) FROM n");
+    Recordset rows = store.Cursor("SELECT * FROM Texts WHERE TableName = 'Muchos' "
+                                  "ORDER BY FieldDefId");
+    ASSERT_EQ(rows.RecordCount(), 3000);
+    for (int i = 0; rows.HasRow(); rows.MoveNext(), ++i) {
+        ASSERT_EQ(rows.Integer(u"FieldDefId"), i);
+        ASSERT_EQ(rows.Text(u"ItemId"), QString::number(i % 400));
+        ASSERT_EQ(rows.Text(u"FieldValue"), QStringLiteral("ñandú y más").left(i % 12)) << i;
+    }
+}
+
 TEST(Recordset, WalksFromFirstPastLast) {
     StoreFixture store;
     Recordset row = store.Cursor("SELECT ProductId FROM Products ORDER BY ProductId");
@@ -81,11 +96,20 @@ TEST(Recordset, RefusesWithTheNumberOfTheFault) {
     EXPECT_EQ(empty.ColumnCount(), 5);
     EXPECT_EQ(ErrorOf([&] { empty.Set(u"IsNew", qint64{1}); }), kErrNoCurrentRow);
 
-    Recordset counted = store.Cursor("SELECT count(*) AS n FROM Products");
-    EXPECT_EQ(ErrorOf([&] { counted.Set(u"n", qint64{1}); }), kErrNotUpdatable);
+    store.Connection()->Execute("CREATE VIEW Vista AS SELECT IsNew FROM Products;"
+                                "CREATE TABLE SinId (IsNew TEXT PRIMARY KEY) WITHOUT ROWID;"
+                                "INSERT INTO SinId VALUES ('a')");
+    for (const char* statement :
+         {"SELECT count(*) AS IsNew FROM Products", "SELECT DISTINCT IsNew FROM Products",
+          "SELECT IsNew+1 AS IsNew FROM Products", "SELECT IsNew FROM Vista",
+          "SELECT IsNew FROM SinId"}) {
+        Recordset rows = store.Cursor(statement);
+        EXPECT_EQ(ErrorOf([&] { rows.Set(u"IsNew", qint64{7}); }), kErrNotUpdatable) << statement;
+        EXPECT_FALSE(rows.HasPending());
+    }
+    Recordset counted = store.Cursor("SELECT count(*) FROM Products");
     EXPECT_EQ(ErrorOf([&] { counted.AddNew(); }), kErrNotUpdatable);
-    Recordset computed = store.Cursor("SELECT IsNew+1 AS n FROM Products");
-    EXPECT_EQ(ErrorOf([&] { computed.Set(u"n", qint64{1}); }), kErrNotUpdatable);
+    EXPECT_EQ(ErrorOf([&] { counted.Delete(); }), kErrNotUpdatable);
 
     for (const char* statement :
          {"SELECT * FROM Nada", "SELECT Nada FROM Products", "PRAGMA user_version"}) {
@@ -99,8 +123,9 @@ TEST(Recordset, EditsStayInTheCopyUntilUpdate) {
     rows.Set(u"SaleZone", QString("Soria"));
     rows.Set(u"PriceAmount", QString("12")); // as typed
     rows.MoveNext();
-    rows.Set(u"IsNew", qint64{2});
+    rows.Set(u"IsNew", QString("2"));
     rows.Set(u"ProductRef", qint64{77});
+    EXPECT_EQ(rows.Value(u"IsNew"), Cell(qint64{2}));
     EXPECT_EQ(rows.Value(u"ProductRef"), Cell(QString("77")));
     EXPECT_EQ(store.Rows("SELECT SaleZone, IsNew FROM Products WHERE ProductId < 10003"),
               "Ávila,1/-,0");
