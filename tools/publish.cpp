@@ -20,6 +20,14 @@ namespace {
 constexpr int kButtonUpdate = 0;
 constexpr int kStorageFTP = 1;
 
+// Steps that bring the site to its destination; what follows them is the portal's.
+constexpr int kFolderSteps = 3;
+constexpr int kFTPSteps = 4;
+
+// Written by PrintEnd: a step up to the delivery has failed. A file that could not be sent leaves
+// the run itself a success, as the button has it.
+bool siteStepFailed = false;
+
 void PrintLine(std::FILE* stream, const QString& line) {
     std::fputs((line + "\n").toUtf8().constData(), stream);
     std::fflush(stream);
@@ -32,6 +40,8 @@ void PrintStart(int index, const QString& text) {
 void PrintEnd(int index, const QString& text, bool done) {
     PrintLine(stdout,
               QStringLiteral("%1. %2: %3").arg(index + 1).arg(text, done ? "hecho" : "ERROR"));
+    const int steps = StorageMethod == kStorageFTP ? kFTPSteps : kFolderSteps;
+    siteStepFailed = siteStepFailed || (!done && index < steps);
 }
 
 QString Destination() {
@@ -50,14 +60,14 @@ void DropToolkitWarnings(QtMsgType type, const QMessageLogContext& /*context*/,
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(DropToolkitWarnings);
-    Application application(argc, argv);
-    if (argc > 1) {
+    if (argc > 1) { // the toolkit would take options of its own for itself
         PrintLine(stderr,
                   "publish no admite opciones: publica según la configuración del usuario.");
         return EXIT_FAILURE;
     }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(DropToolkitWarnings);
+    Application application(argc, argv);
     SetUnattended();
     LoadToolkitTexts();
     StartProgram();
@@ -67,7 +77,7 @@ int main(int argc, char** argv) {
     SetUpSteps();
     ListenToSteps({PrintStart, PrintEnd});
     cmdUpdateWeb_Click(kButtonUpdate);
-    if (LastOutcome != PublishOutcome::Delivered) {
+    if (LastOutcome != PublishOutcome::Delivered || siteStepFailed) {
         PrintLine(stderr, "La web no se ha publicado: " + Destination());
         EndProcess(EXIT_FAILURE);
     }

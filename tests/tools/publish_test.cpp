@@ -1,0 +1,235 @@
+// The program without its window, run as a scheduled run starts it: a process of its own, the
+// user's settings file, a catalogue on disk.
+#include "platform/instance.h"
+#include "tests/support/templatebuilder.h"
+#include "tests/support/testpictures.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kPatience = 20000; // milliseconds
+
+constexpr char kProduct[] =
+    "INSERT INTO Products (ProductId, ProductRef, PriceAmount, IsNew, SaleZone, LastUpdate) VALUES"
+    " (10001, 'TAZ-01', 16.5, 0, 'Mesa', '2026-10-12T18:20:05');"
+    "INSERT INTO Pictures (ProductId, ProdPictureId, PictureId, OrderInForm, PicturePath) VALUES"
+    " (10001, 1, 1000101, 0, 'Pic1000101.dat');";
+
+TemplateBuilder Design() {
+    TemplateBuilder design;
+    design.Add(2, "p%%PRID%%.htm", "", "<p>%%PRODUCTREF%%</p>")
+        .Add(3, "index.html", "", "<p>inicio</p>")
+        .Add(12, "%%PICTUREID%%.jpg", "RESIZE=40X30;", "")
+        .Add(21, "ES", "", "");
+    return design;
+}
+
+class Publish : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const char* folder : {"config/Lumenta", "run", "data"}) {
+            QDir(home.path()).mkpath(folder);
+        }
+        QFile::setPermissions(home.filePath("run"),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        Write("product.sql", kProduct);
+        QProcess maker;
+        maker.start(MAKESTORE,
+                    {Data() + "Zandora.zdb", DELIVERY "schema.sql", DELIVERY "languages.sql",
+                     DELIVERY "texts.sql", home.filePath("product.sql")});
+        ASSERT_TRUE(maker.waitForFinished(kPatience));
+        ASSERT_EQ(maker.exitCode(), 0) << maker.readAllStandardError().toStdString();
+        Write("data/Pic1000101.dat", MakeJpeg(FourFields({80, 60})));
+        Design().Write(Data(), "Default.zdt");
+        Settings({});
+    }
+
+    QString Data() const { return home.path() + "/data/"; }
+
+    void Write(const QString& name, const QByteArray& bytes) const {
+        QFile file(home.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QByteArray Read(const QString& name) const {
+        QFile file(home.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    // Lines of the section Params beside the catalogue's folder, a later one of a key counts less.
+    void Settings(const QByteArray& lines) const {
+        Write("config/Lumenta/settings.ini",
+              "[Params]\n" + lines + "DBpath=" + Data().toUtf8() + "\nTemplateLangs=ES\n");
+    }
+
+    // Exit code; what it says goes to `said` and `complaint`.
+    int Run(const QStringList& options = {}, const QString& program = PUBLISH) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", home.filePath("config"));
+        environment.insert("XDG_RUNTIME_DIR", home.filePath("run"));
+        QProcess tool;
+        tool.setProcessEnvironment(environment);
+        tool.start(program, options);
+        EXPECT_TRUE(tool.waitForFinished(kPatience));
+        EXPECT_EQ(tool.exitStatus(), QProcess::NormalExit);
+        said = QString::fromUtf8(tool.readAllStandardOutput());
+        complaint = QString::fromUtf8(tool.readAllStandardError());
+        return tool.exitCode();
+    }
+
+    // Every file below the user's folders but the running program's lock.
+    QStringList Files() const {
+        QStringList files;
+        for (const char* folder : {"config/Lumenta", "data", "data/temp"}) {
+            const QDir place(home.filePath(folder));
+            for (const QString& name : place.entryList(QDir::Files | QDir::Hidden)) {
+                files += QString(folder) + '/' + name;
+            }
+        }
+        return files;
+    }
+
+    QTemporaryDir home;
+    QString said;
+    QString complaint;
+};
+
+// A run that must fail: what is done to the catalogue first, and what the user reads.
+struct Refusal {
+    const char* name;
+    void (*spoil)(const QString& data);
+    QByteArray settings;
+    QStringList complaints;
+};
+
+void PrintTo(const Refusal& refusal, std::ostream* stream) {
+    *stream << refusal.name;
+}
+
+void Overwrite(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+const char kNotPublished[] = "La web no se ha publicado: ";
+
+const Refusal kRefusals[] = {
+    {"NoStore",
+     [](const QString& data) { QFile::remove(data + "Zandora.zdb"); },
+     "",
+     {"No se ha podido abrir la Base de Datos.", "/data/Zandora.zdb existe y que tiene acceso"}},
+    {"NoStoreOfOurs",
+     [](const QString& data) { Overwrite(data + "Zandora.zdb", "hola"); },
+     "",
+     {"No se ha podido abrir la Base de Datos."}},
+    {"StoreOfAnotherProgram",
+     [](const QString& data) {
+         QFile::remove(data + "Zandora.zdb");
+         Overwrite(data + "other.sql", "CREATE TABLE ProductFieldDef (FieldDefId INTEGER);");
+         QProcess::execute(MAKESTORE, {data + "Zandora.zdb", data + "other.sql"});
+     },
+     "",
+     {"No se ha podido abrir la Base de Datos."}},
+    {"NoTemplate",
+     [](const QString& data) { QFile::remove(data + "Default.zdt"); },
+     "",
+     {"No existe la plantilla de diseño ", "/data/Default.zdt", kNotPublished}},
+    {"DamagedTemplate",
+     [](const QString& data) { QFile(data + "Default.zdt").resize(700); },
+     "",
+     {"Se ha producido un error al abrir la plantilla de diseño", kNotPublished}},
+    {"FolderThatCannotBeMade",
+     [](const QString&) {},
+     "StoragePath=/proc/none/web/\n",
+     {"La web no se ha publicado: /proc/none/web/index.html"}},
+    {"NoPicture",
+     [](const QString& data) { QFile::remove(data + "Pic1000101.dat"); },
+     "",
+     {"Referencia TAZ-01", kNotPublished}},
+    {"DamagedPicture",
+     [](const QString& data) { Overwrite(data + "Pic1000101.dat", "hola"); },
+     "",
+     {"Referencia TAZ-01", kNotPublished}},
+    {"ServerThatIsNotThere",
+     [](const QString&) {},
+     "StorageMethod=1\nFTPServer=host.invalid\nFTPPath=/web\n",
+     {"host.invalid", "La web no se ha publicado: ftp://host.invalid/web"}},
+};
+
+class PublishRefusal : public Publish, public testing::WithParamInterface<Refusal> {};
+
+INSTANTIATE_TEST_SUITE_P(All, PublishRefusal, testing::ValuesIn(kRefusals),
+                         [](const auto& tested) { return tested.param.name; });
+
+} // namespace
+
+TEST_P(PublishRefusal, FailsWithAClearLineAndKeepsSettings) {
+    Settings(GetParam().settings);
+    GetParam().spoil(Data());
+    const QByteArray before = Read("config/Lumenta/settings.ini");
+    EXPECT_EQ(Run(), 1) << said.toStdString();
+    for (const QString& line : GetParam().complaints) {
+        EXPECT_TRUE(complaint.contains(line)) << complaint.toStdString();
+    }
+    EXPECT_EQ(Read("config/Lumenta/settings.ini"), before);
+    EXPECT_FALSE(Files().contains("data/temp/index.html"));
+}
+
+TEST_F(Publish, WritesTheSiteTellsItsStepsAndKeepsTheMoment) {
+    EXPECT_EQ(Run(), 0) << complaint.toStdString();
+    EXPECT_EQ(complaint, "");
+    EXPECT_EQ(said, "1. Generar el Contenido Web...\n"
+                    "1. Generar el Contenido Web: hecho\n"
+                    "2. Comprobar y Listar los cambios...\n"
+                    "2. Comprobar y Listar los cambios: hecho\n"
+                    "3. Guardar los Ficheros en Carpeta Local...\n"
+                    "3. Guardar los Ficheros en Carpeta Local: hecho\n"
+                    "La web se ha publicado: " +
+                        Data() + "temp/index.html\n");
+    EXPECT_EQ(Read("data/temp/p10001.htm"), "<p>TAZ-01</p>");
+    EXPECT_EQ(QImage(home.filePath("data/temp/1000101.jpg")).size(), QSize(40, 30));
+    EXPECT_TRUE(Read("config/Lumenta/settings.ini").contains("\nLastWebUpdate="));
+}
+
+TEST_F(Publish, OddSettingsCountAsTheirDefaults) {
+    Settings("StorageMethod=dos\nMultiUser=quizás\n[UI]\nUIPassword=secreto\n[Templates]\n"
+             "TemplColorSet=azul\nTemplMaxEmph=\n[Params]\n");
+    EXPECT_EQ(Run(), 0) << complaint.toStdString();
+    EXPECT_FALSE(Read("data/temp/index.html").isEmpty());
+    EXPECT_TRUE(Read("config/Lumenta/settings.ini").contains("\nStorageMethod=0\n"));
+    EXPECT_TRUE(Read("config/Lumenta/settings.ini").contains("UIPassword=secreto\n"));
+}
+
+// The defaults point beside the program, where a test may not publish.
+TEST_F(Publish, ADamagedSettingsFileIsLeftAloneWhenTheRunFails) {
+    const QByteArray damaged("\0\1\2", 3);
+    Write("config/Lumenta/settings.ini", damaged);
+    QFile::copy(PUBLISH, home.filePath("publish"));
+    EXPECT_EQ(Run({}, home.filePath("publish")), 1);
+    EXPECT_TRUE(complaint.contains("/Data/Zandora.zdb existe")) << complaint.toStdString();
+    EXPECT_EQ(Read("config/Lumenta/settings.ini"), damaged);
+}
+
+TEST_F(Publish, OptionsAndAnOpenProgramAreRefusedBeforeAnythingIsTouched) {
+    const QStringList before = Files();
+    for (const QStringList& options : {QStringList{"--help"}, QStringList{"-style", "fusion"}}) {
+        EXPECT_EQ(Run(options), 1);
+        EXPECT_TRUE(complaint.contains("no admite opciones")) << complaint.toStdString();
+    }
+    const QByteArray usual = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", home.filePath("run").toUtf8());
+    ASSERT_TRUE(ClaimInstance());
+    EXPECT_EQ(Run(), 1);
+    ReleaseInstance();
+    qputenv("XDG_RUNTIME_DIR", usual);
+    EXPECT_TRUE(complaint.contains("Lumenta: El programa ya está abierto"))
+        << complaint.toStdString();
+    EXPECT_EQ(said, "");
+    EXPECT_EQ(Files(), before);
+}
