@@ -19,6 +19,12 @@ namespace {
 // Reading it is the real test that the file and its tables are there.
 constexpr char kFieldDefsStatement[] = "SELECT * FROM ProductFieldDef ORDER BY FieldDefId";
 
+// A file that lacks one of these is another program's. "%1" is the table.
+constexpr char kTableStatement[] = "SELECT * FROM %1 WHERE 1 = 2";
+constexpr const char* kOtherTables[] = {"Products",         "ProductFields", "Pictures",
+                                        "MultiLangFields",  "Languages",     "CorpInfo",
+                                        "MultiLangFieldDef"};
+
 void OpenCursors() {
     FinishCompaction(DBpath + DBname);
     const auto connection = StoreConnection::Open(DBpath + DBname);
@@ -27,6 +33,9 @@ void OpenCursors() {
         adcData[index].SetConnection(connection);
         adcData[index].SetPessimistic(index == kCursorProduct);
         DoEvents();
+    }
+    for (const char* table : kOtherTables) {
+        RunQuery(kCursorScratch, QString(kTableStatement).replace("%1", table));
     }
     RunQuery(kCursorScratch, kFieldDefsStatement);
 }
