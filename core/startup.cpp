@@ -14,7 +14,6 @@
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/instance.h"
-#include "platform/notify.h"
 #include "platform/process.h"
 #include "publish/workflow.h"
 #include "store/corpinfo.h"
@@ -53,7 +52,10 @@ void RaiseWindow() {
 
 void ClaimSingleInstance() {
     if (ClaimInstance()) {
-        OnRaiseRequest(RaiseWindow);
+        // A run without a user has no window to show: the other start gets no answer.
+        if (!IsUnattended()) {
+            OnRaiseRequest(RaiseWindow);
+        }
         return;
     }
     if (IsUnattended()) {
@@ -61,12 +63,18 @@ void ClaimSingleInstance() {
                AppName);
         EndProcess(EXIT_FAILURE);
     }
-    RaiseRunningInstance();
+    if (!RaiseRunningInstance()) {
+        MsgBox(
+            "El programa ya está en marcha, ocupado o publicando la web sin ventana. Espere a que "
+            "termine e inténtelo de nuevo.",
+            BoxIcon::Information, AppName);
+    }
     EndProcess(EXIT_SUCCESS);
 }
 
 void TestScreen() {
-    const int width = QGuiApplication::primaryScreen()->size().width();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const int width = qRound(screen->size().width() * screen->devicePixelRatio());
     if (width < kSmallestWidth) {
         MsgBox(QStringLiteral("Para ejecutar %1 es necesaria una resolución de al menos 800x600")
                    .arg(AppName),
@@ -144,6 +152,30 @@ void AddListColumns() {
     frmMain->AddListColumn("PriceAmount", "Precio", 930, true);
 }
 
+void ShowCatalogue() {
+    LoadLanguages();
+    ArrangeLangButtons(frmMain->fraLang, frmMain->optLang);
+    LoadCorpInfo();
+    AddListColumns();
+    LoadFieldDefs();
+    RefreshProductList();
+    if (MultiUser) {
+        frmMain->tmrListRefresh->start();
+    }
+}
+
+// A store that opens and can't be read all the same (damaged, or of another program) ends the
+// start: there is nothing to show.
+void OpenCatalogue() {
+    OpenStoreBehindSplash();
+    try {
+        ShowCatalogue();
+    } catch (const std::exception& failure) {
+        MsgBox(QString::fromUtf8(failure.what()), BoxIcon::Critical, AppName);
+        EndProcess(EXIT_FAILURE);
+    }
+}
+
 void ConnectScreens() {
     ConnectMainScreen();
     ConnectPublish();
@@ -154,7 +186,6 @@ void ConnectScreens() {
 
 void StartProgram() {
     const bool flavoured = LoadFlavour(ProgramFolder());
-    SetErrorTitle(AppName);
     new MainForm;
     ConnectScreens();
     if (flavoured) {
@@ -167,16 +198,7 @@ void StartProgram() {
     TestScreen();
     LoadSettings();
     AskPassword();
-    OpenStoreBehindSplash();
-    LoadLanguages();
-    ArrangeLangButtons(frmMain->fraLang, frmMain->optLang);
-    LoadCorpInfo();
-    AddListColumns();
-    LoadFieldDefs();
-    RefreshProductList();
-    if (MultiUser) {
-        frmMain->tmrListRefresh->start();
-    }
+    OpenCatalogue();
     frmMain->mnuConfig[kMenuOtherWebs]->setVisible(IsRealEstateFlavour());
     frmMain->show();
 }
