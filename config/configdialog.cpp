@@ -191,6 +191,7 @@ void cmdTemplates_Click(int index) {
     }
 }
 
+// The other pages need the store.
 void SelectPage(ConfigForm& form, int page) {
     if (page == kPageAdvanced || StoreOpen) {
         form.ShowTab(page);

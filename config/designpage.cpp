@@ -115,12 +115,9 @@ void chkLang_Click(ConfigForm& form, std::size_t k) {
 }
 
 void ShowLanguage(ConfigForm& form, std::size_t k, const QString& code) {
-    const QString caption = LanguageCaption(code);
     SetTag(form.chkLang[k], code);
     form.chkLang[k]->setIcon(FlagIcon(code));
-    form.chkLang[k]->setToolTip(caption);
-    form.chkLang[k]->setAccessibleName(caption);
-    form.optDefaultLang[k]->setAccessibleName(caption);
+    form.chkLang[k]->setToolTip(LanguageCaption(code)); // the accessible names follow it
     form.chkLang[k]->setVisible(!code.isEmpty());
     form.chkLang[k]->setChecked(!code.isEmpty() && UserLangs.contains(code));
     if (!code.isEmpty() && code == DefaultLang) {

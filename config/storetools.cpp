@@ -29,16 +29,28 @@ void Compact() {
     }
 }
 
-void ShowMovedPaths(ConfigForm& form) {
+void ShowPaths(ConfigForm& form) {
     form.txtDBdir->setText(DBpath);
     form.txtTemplPath->setText(TemplPath);
     form.cmdOK->setEnabled(true);
 }
 
+// The dialog is on screen already: where the store is gone, it asks for the folder itself.
+void OpenStoreAgain(ConfigForm& form) {
+    while (OpenStore() != 0) {
+        const QString folder =
+            BrowseFolder(&form, "Seleccione la Carpeta en la que se almacena la Base de Datos:");
+        if (!folder.isEmpty()) {
+            SetStoreFolder(folder);
+            ShowPaths(form);
+        }
+    }
+}
+
 void MoveTo(ConfigForm& form, const QString& folder) {
     switch (MoveStoreFiles(folder)) {
     case MoveResult::Moved:
-        ShowMovedPaths(form);
+        ShowPaths(form);
         MsgBox("Los archivos de la Base de Datos se han movido con éxito", BoxIcon::Information,
                AppName);
         break;
@@ -60,7 +72,7 @@ void Move(ConfigForm& form) {
     } else if (WithSeparator(folder) == WithSeparator(DBpath)) {
         MsgBox("No se ha movido la Base de Datos, dado que esta ya se encuentra en el Directorio "
                "\n" +
-                   folder,
+                   WithSeparator(folder),
                BoxIcon::Information, AppName);
     } else {
         MoveTo(form, folder);
@@ -74,6 +86,7 @@ void cmdTools_Click(ConfigForm& form, int tool) {
         ReleaseCurrent();
     }
     CloseStore();
+    form.cmdCancel->setEnabled(false); // a tool can't be undone
     form.setEnabled(false);
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     if (tool == kToolCompact) {
@@ -83,10 +96,7 @@ void cmdTools_Click(ConfigForm& form, int tool) {
     }
     QGuiApplication::restoreOverrideCursor();
     form.setEnabled(true);
-    while (OpenStore() != 0) {
-        MsgBox("Indique la carpeta de la Base de Datos.", BoxIcon::Information, AppName);
-        SetStoreFolder(BrowseFolder(&form, "Directorio de Datos:"));
-    }
+    OpenStoreAgain(form);
     LoadFieldDefs();
     CurrentListSQL.clear();
     RefreshProductList();

@@ -13,6 +13,7 @@
 #include "platform/fileops.h"
 #include "platform/picturefile.h"
 #include "platform/shell.h"
+#include "platform/storeerror.h"
 #include "store/corpinfo.h"
 #include "store/langvalues.h"
 #include "store/snapshot.h"
@@ -146,12 +147,23 @@ void cmdPreview_Click(CorpInfoForm& form, std::size_t i) {
     }
 }
 
+void MarkLanguage(CorpInfoForm& form) {
+    for (QToolButton* button : form.optLang) {
+        button->setChecked(Tag(button) == UICurrentLang);
+    }
+}
+
 void optLang_Click(CorpInfoForm& form, const QToolButton* button) {
     if (!LangButtonsReady || Tag(button) == UICurrentLang) {
         return;
     }
     form.cmdCancel->setEnabled(false);
-    SaveCorpLangValues();
+    try {
+        SaveCorpLangValues();
+    } catch (const StoreError&) {
+        MarkLanguage(form); // the texts on screen stay those of the old language
+        throw;
+    }
     SetUICurrentLang(Tag(button));
     LoadCorpLangValues();
 }
