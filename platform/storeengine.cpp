@@ -3,6 +3,7 @@
 #include "platform/presence.h"
 #include "platform/statement.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
@@ -12,6 +13,7 @@
 
 struct StoreConnection::Data {
     QString path;
+    QElapsedTimer waiting; // since the present wait for another process began
     std::shared_ptr<StorePresence> presence;
     sqlite3* handle = nullptr;
 };
@@ -53,6 +55,22 @@ void CheckIsStore(sqlite3* handle) {
     if (ReadNumber(handle, "PRAGMA page_count") == 0) {
         throw StoreError(kErrOpen, QStringLiteral("el fichero está vacío"));
     }
+}
+
+// Short and even waits: with the engine's own ones, which grow, a process that waits long is
+// overtaken by those that have just come.
+constexpr int kBusyStepMilliseconds = 5;
+
+int WaitForOthers(void* waiting, int round) {
+    auto* timer = static_cast<QElapsedTimer*>(waiting);
+    if (round == 0) {
+        timer->start();
+    }
+    if (timer->hasExpired(kBusyMilliseconds)) {
+        return 0;
+    }
+    sqlite3_sleep(kBusyStepMilliseconds);
+    return 1;
 }
 
 void SyncToDisk(const QString& path) {
@@ -112,7 +130,7 @@ std::shared_ptr<StoreConnection> StoreConnection::Connect(const QString& path) {
         throw EngineError(data.handle, code);
     }
     sqlite3_extended_result_codes(data.handle, 1);
-    sqlite3_busy_timeout(data.handle, kBusyMilliseconds);
+    sqlite3_busy_handler(data.handle, WaitForOthers, &data.waiting);
     return connection;
 }
 
