@@ -1,6 +1,6 @@
 #include "editor/buttons.h"
 
-#include "editor/productlist.h"
+#include "editor/listrows.h"
 #include "forms/mainform.h"
 #include "store/products.h"
 

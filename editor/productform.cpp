@@ -13,8 +13,6 @@
 #include "platform/events.h"
 #include "platform/numbers.h"
 #include "store/formstate.h"
-#include "store/langvalues.h"
-#include "store/picturerecords.h"
 #include "store/productref.h"
 #include "store/products.h"
 #include "store/store.h"
@@ -33,18 +31,6 @@ constexpr int kMessageReplace = 15;
 constexpr int kListRef = 0; // columns of the list
 constexpr int kListShortDesc = 1;
 constexpr int kListPrice = 2;
-
-void ClearSlots() {
-    for (QLineEdit* box : frmMain->txtFields) {
-        box->clear();
-    }
-    for (QCheckBox* box : frmMain->chkFields) {
-        box->setChecked(false);
-    }
-    for (QComboBox* box : frmMain->cboFields) {
-        box->setCurrentIndex(box->count() > 0 ? 0 : -1);
-    }
-}
 
 bool IsEdit() {
     return !FillingForm && ListRowCount() > 0;
@@ -276,28 +262,6 @@ void ConnectEvents() {
 }
 
 } // namespace
-
-void ClearProductForm() {
-    const FillingGuard filling;
-    for (QLineEdit* box :
-         {frmMain->txtProductId, frmMain->txtProductRef, frmMain->txtZone, frmMain->txtPriceAmount,
-          frmMain->txtPrizeAmountPTA, frmMain->txtPriceCurrency, frmMain->txtLastUpdate,
-          frmMain->txtPicture}) {
-        box->clear();
-    }
-    for (QWidget* box : frmMain->txtMLFields) {
-        SetControlText(box, {});
-    }
-    ClearSlots();
-    frmMain->cboIsNew->setCurrentIndex(kStatusPublished);
-    SetTag(frmMain->cboIsNew, QString::number(kStatusPublished));
-    LoadProductLangValues();
-    LoadPictures();
-    // What the boxes hold now belongs to no row.
-    ParkCursor(kCursorTexts);
-    ParkCursor(kCursorProduct);
-    frmMain->fraReadOnly->hide();
-}
 
 void FocusNextField(int index) {
     const bool last = index + 1 >= static_cast<int>(frmMain->txtFields.size());

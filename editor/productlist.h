@@ -1,18 +1,10 @@
 // The product list: filling, sorting, filtering and refreshing it, and keeping it in step with the
-// editor. The selected row is the product in the editor at all times. Owns the list's state.
+// editor. The selected row is the product in the editor at all times. Writes the state in listrows.
 #pragma once
 
-#include <QString>
-#include <vector>
+#include "editor/listrows.h"
 
-extern std::vector<int> ProductIds; // ProductId of each row, in row order
-extern QString
-    CurrentListSQL; // the list's statement with filter and order; empty before the first fill
-extern QString SelectedRef;    // reference of the row selected before a refresh
-extern int SortColumn;         // 0 reference, 1 description, 2 price; 0 at start
-extern bool SortDescending;    // false at start
-extern int FeaturedCount;      // listed products "En Portada"
-extern bool NewProductPending; // a new product has not found its place in the list yet
+#include <QString>
 
 inline constexpr int kListSelector = 2; // the list's number for SortProductList
 
@@ -40,16 +32,6 @@ void RefreshProductList();
 // Takes out the selected row and moves on to the next product.
 void RemoveFromList();
 
-// Appends the row of a product just created and selects it.
-void AppendNewProductRow();
-
-// Writes one cell of the selected row if it differs.
-void UpdateListRow(int column, const QString& text);
-
-// Colours a row (from 0) by status and keeps FeaturedCount, by the status that cboIsNew's tag
-// remembers.
-void MarkListRow(int row, int status);
-
 // Tells the user that the product in the editor was deleted by somebody else, and takes its row out
 // of the list.
 void TellProductGone();
@@ -60,10 +42,3 @@ void ConnectProductList();
 // Fills the editor from the selected row, or empties it without one; a product that another user
 // has deleted is told and taken out of the list.
 void LoadSelectedProduct();
-
-// The state above as at start: for another catalogue in place of this one.
-void ResetProductList();
-
-int ListRowCount();
-int SelectedRow(); // from 0; -1 when the list is empty
-void SelectRow(int row);
