@@ -1,4 +1,5 @@
 # Copies FROM to TO where there is no TO: a catalogue of a user is never overwritten.
-if(NOT EXISTS ${TO})
-    configure_file(${FROM} ${TO} COPYONLY)
+if(NOT EXISTS "${TO}")
+    file(COPY_FILE "${FROM}" "${TO}.new")
+    file(RENAME "${TO}.new" "${TO}")
 endif()

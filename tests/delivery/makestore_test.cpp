@@ -1,0 +1,54 @@
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class MakeStore : public testing::Test {
+protected:
+    QString Write(const QString& name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return file.fileName();
+    }
+
+    // The exit code; what the tool said is kept.
+    int Run(const QStringList& files) {
+        QProcess process;
+        process.start(MAKESTORE, QStringList{store} + files);
+        EXPECT_TRUE(process.waitForFinished());
+        said = QString::fromUtf8(process.readAllStandardError());
+        return process.exitCode();
+    }
+
+    QTemporaryDir folder;
+    QString store = folder.filePath("Zandora.zdb");
+    QString said;
+};
+
+} // namespace
+
+TEST_F(MakeStore, LeavesNothingWhereAFileFailsAndNamesIt) {
+    const QString good = Write("good.sql", "CREATE TABLE T (A TEXT COLLATE SPANISH);");
+    const QStringList bad = {
+        Write("table.sql", "INSERT INTO Nada VALUES (1);"),
+        Write("half.sql", "INSERT INTO T VALUES ('"),
+        Write("latin.sql", "INSERT INTO T VALUES ('\xf1');"),
+        folder.filePath("missing.sql"),
+    };
+    const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden);
+    for (const QString& file : bad) {
+        EXPECT_EQ(Run({good, file}), 1);
+        EXPECT_TRUE(said.contains(file)) << said.toStdString();
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden), before);
+}
+
+TEST_F(MakeStore, NeverTouchesAStoreThatExists) {
+    Write("Zandora.zdb", "a user's catalogue");
+    EXPECT_EQ(Run({Write("good.sql", "CREATE TABLE T (A TEXT);")}), 1);
+    QFile file(store);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "a user's catalogue");
+}
