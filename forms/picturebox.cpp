@@ -32,8 +32,15 @@ void PictureBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFrame(&painter);
     const QPixmap picture = pixmap();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(FitPicture(picture.size(), size(), fitMargin), picture);
+    const QRect place = FitPicture(picture.size(), size(), fitMargin);
+    if (picture.isNull() || place.isEmpty()) {
+        return;
+    }
+    // Averaged over the pixels that fall together: the painter's own scaling leaves jagged edges.
+    QPixmap scaled = picture.scaled(place.size() * devicePixelRatioF(), Qt::IgnoreAspectRatio,
+                                    Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(devicePixelRatioF());
+    painter.drawPixmap(place.topLeft(), scaled);
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
