@@ -23,6 +23,9 @@ namespace {
 constexpr int kPageRegistry = 3; // has no texts per language
 constexpr char kNoLogo[] = "[N/A]";
 
+// A picture is decoded for a frame of at least this size: the window may grow afterwards.
+constexpr QSize kPictureShown(640, 480);
+
 // By index of the picture's controls: where its copy lies and what the choice is called.
 struct CompanyPicture {
     const char* file;
@@ -52,7 +55,9 @@ void ShowPicture(CorpInfoForm& form, std::size_t i) {
         return;
     }
     try {
-        const DecodedPicture picture = ReadPicture(DBpath + name, form.imgPicture[i]->size());
+        const DecodedPicture picture =
+            ReadPicture(DBpath + name, form.imgPicture[i]->size().expandedTo(kPictureShown) *
+                                           form.devicePixelRatioF());
         form.imgPicture[i]->setPixmap(QPixmap::fromImage(picture.image));
     } catch (const PictureError&) {
         MsgBox("No se puede abrir la imagen.\nCompruebe que el fichero existe, que tiene permisos "
