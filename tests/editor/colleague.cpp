@@ -10,6 +10,7 @@
 //   unpicture         deletes its first picture: "unpicture ID"
 //   compact           closes the store, compacts and opens it: "compacted CODE"
 //   arm N             the process dies at its N-th write from here on (killer.cpp): "armed"
+//   left              of those writes: their number
 //   random SEED N     N random edits (twousers_test.cpp): their outcomes, a line each, then "done"
 #include "core/settings.h"
 #include "editor/productlist.h"
@@ -25,7 +26,7 @@
 #include "tests/support/boxes.h"
 #include "tests/support/program.h"
 
-#include <QTemporaryDir>
+#include <QDir>
 #include <dlfcn.h>
 #include <iostream>
 #include <random>
@@ -96,13 +97,13 @@ QString Compact() {
     return OpenStore() == 0 ? "compacted " + QString::number(code) : QString("lost");
 }
 
+// Routines of killer.cpp, where it is loaded.
+template <class Routine> Routine Killer(const char* name) {
+    return reinterpret_cast<Routine>(dlsym(RTLD_DEFAULT, name));
+}
+
 QString Arm(int writes) {
-    using ArmKiller = void (*)(int);
-    auto* arm = reinterpret_cast<ArmKiller>(dlsym(RTLD_DEFAULT, "ArmKiller"));
-    if (arm == nullptr) {
-        return "no killer";
-    }
-    arm(writes);
+    Killer<void (*)(int)>("ArmKiller")(writes);
     return "armed";
 }
 
@@ -157,6 +158,9 @@ QString Obey(const QStringList& words) {
     if (words[0] == u"arm") {
         return Arm(rest.toInt());
     }
+    if (words[0] == u"left") {
+        return QString::number(Killer<int (*)()>("KillerLeft")());
+    }
     RandomEdits(words[1].toUInt(), words[2].toInt());
     return "done";
 }
@@ -164,9 +168,13 @@ QString Obey(const QStringList& words) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+    // Goes with the catalogue, however this process ends.
+    const QByteArray home = QByteArray(argv[1]) + "colleague";
+    QDir().mkpath(QString::fromLocal8Bit(home));
+    QFile::setPermissions(QString::fromLocal8Bit(home),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("XDG_CONFIG_HOME", home);
+    qputenv("XDG_RUNTIME_DIR", home);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     Application application(argc, argv);

@@ -8,6 +8,7 @@
 #include "editor/productlist.h"
 #include "forms/mainform.h"
 #include "platform/numbers.h"
+#include "platform/statement.h"
 #include "platform/storeengine.h"
 #include "store/fielddefs.h"
 #include "store/languages.h"
@@ -15,6 +16,7 @@
 
 #include <QDialog>
 #include <QFile>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -60,6 +62,9 @@ const char kSmallCatalogue[] = R"(
 
 namespace {
 
+constexpr char kTemporary[] = "TMPDIR"; // where temporary folders are made
+constexpr char kMemoryFolder[] = "/dev/shm";
+
 // The flavour file of the agencies, as the program reads it.
 QByteArray AgencyFile() {
     QByteArray bytes = "ZAND\r\nINMO\r\nZandora\r\nInmueble\r\nInmuebles\r\nM\r\nZona\r\nZona del "
@@ -95,6 +100,7 @@ void StartScreens(const QString& folder, Trade trade) {
     ResetProductList();
     new MainForm;
     ConnectMainScreen();
+    QObject::connect(frmMain, &MainForm::Unload, frmMain, LeaveMainScreen);
     ApplyCaptions(frmMain);
     BuildMessages();
     ASSERT_EQ(OpenStore(), 0);
@@ -115,6 +121,20 @@ void EndScreens() {
     ResetProductList();
 }
 
+MemoryDisk::MemoryDisk() : before(qgetenv(kTemporary)) {
+    if (QFileInfo(kMemoryFolder).isWritable()) {
+        qputenv(kTemporary, kMemoryFolder);
+    }
+}
+
+MemoryDisk::~MemoryDisk() {
+    if (before.isEmpty()) {
+        qunsetenv(kTemporary);
+    } else {
+        qputenv(kTemporary, before);
+    }
+}
+
 TestProgram::TestProgram(const QString& rows, Trade trade)
     : catalogue(std::make_unique<TestCatalogue>(rows)) {
     StartScreens(catalogue->Folder(), trade);
@@ -124,11 +144,19 @@ TestProgram::~TestProgram() {
     EndScreens();
 }
 
+void ReturnToWindow() {
+    if (QApplication::activeModalWidget() == nullptr && !frmMain->isActiveWindow()) {
+        frmMain->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(frmMain));
+    }
+}
+
 void Type(QWidget* box, const QString& text) {
+    ReturnToWindow();
     box->setFocus();
     QTest::keySequence(box, QKeySequence::SelectAll);
     if (text.isEmpty()) {
-        QTest::keyClick(box, Qt::Key_Delete);
+        QTest::keyClick(box, Qt::Key_Backspace);
     }
     TypeOn(box, text);
 }
@@ -141,14 +169,17 @@ void TypeOn(QWidget* box, const QString& text) {
 }
 
 void PressKey(QWidget* box, int key) {
+    ReturnToWindow();
     QTest::keyClick(box, static_cast<Qt::Key>(key));
 }
 
 void Click(QWidget* control) {
+    ReturnToWindow();
     QTest::mouseClick(control, Qt::LeftButton);
 }
 
 void ClickRow(int row) {
+    ReturnToWindow();
     QTreeView* list = frmMain->lstProductList;
     const QRect cell = list->visualRect(list->model()->index(row, 0));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
@@ -194,6 +225,11 @@ QString Stored(const QString& statement) {
         rows += fields.join(u';');
     }
     return rows.join(u'|');
+}
+
+QString StoreCheck() {
+    Statement check(adcData[kCursorScratch].Connection()->Handle(), "PRAGMA integrity_check");
+    return check.Step() ? CellText(check.Column(0)) : QStringLiteral("no answer");
 }
 
 void ChangeStore(const QString& statements) {

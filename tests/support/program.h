@@ -22,6 +22,17 @@ void EndScreens();
 // Spanish and English; the second is featured, the third archived.
 extern const char kSmallCatalogue[];
 
+// While it lives, catalogues are made in memory where the machine offers that: for tests of very
+// many saves.
+class MemoryDisk {
+public:
+    MemoryDisk();
+    ~MemoryDisk();
+
+private:
+    QByteArray before;
+};
+
 class TestProgram {
 public:
     explicit TestProgram(const QString& rows = kSmallCatalogue, Trade trade = Trade::Generic);
@@ -32,6 +43,10 @@ public:
 private:
     std::unique_ptr<TestCatalogue> catalogue;
 };
+
+// Makes the main window active again after a box, as a window manager does; the routines below
+// begin with it.
+void ReturnToWindow();
 
 // Replaces what a box holds by typing.
 void Type(QWidget* box, const QString& text);
@@ -54,6 +69,9 @@ QString ListText();
 
 // What a statement finds in the store now: fields joined by ";", rows by "|"; Null is "NULL".
 QString Stored(const QString& statement);
+
+// The engine's own check of the whole store: "ok" or what it found.
+QString StoreCheck();
 
 // Changes the store by the engine's own SQL, past the program.
 void ChangeStore(const QString& statements);

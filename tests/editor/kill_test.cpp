@@ -1,0 +1,171 @@
+// The program killed in the middle of its writes: whatever it had acknowledged is there after a new
+// start, and nothing half done can be seen.
+//
+// A real copy of the program dies at one write after another of each action. A usual run takes a
+// few of them; with KILL_EVERY_WRITE set, all.
+#include "core/settings.h"
+#include "editor/productlist.h"
+#include "forms/mainform.h"
+#include "platform/controls.h"
+#include "store/store.h"
+#include "tests/editor/colleagueprocess.h"
+#include "tests/support/program.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+constexpr int kUsualPoints = 7; // of each action
+constexpr int kNever = 1000000; // more writes than any action has
+constexpr char kEveryWrite[] = "KILL_EVERY_WRITE";
+
+constexpr char kPictures[] = R"(
+    picture; 10003; 1; 0
+    picture; 10003; 2; 1
+    picture; 10003; 3; 2
+    text; Pictures; 1000301; ES; 0; Una
+    text; Pictures; 1000301; ES; 1; Foto)";
+
+struct Action {
+    const char* name;
+    QStringList before; // acknowledged
+    const char* act;
+};
+
+const Action kActions[] = {
+    {"a save",
+     {"select 10001", "type txtFields_0 antes", "type txtMLFields_0 antes", "type txtPriceAmount 1",
+      "save", "select 10002", "select 10001", "type txtFields_0 después",
+      "type txtMLFields_0 después", "type txtPriceAmount 2"},
+     "save"},
+    {"an add", {"select 10001"}, "add"},
+    {"a delete", {"select 10003"}, "delete"},
+    {"a picture added", {"select 10003"}, "picture Foto.jpg"},
+    {"a picture deleted", {"select 10003"}, "unpicture"},
+    {"a compaction", {"select 10001"}, "compact"},
+};
+
+// A catalogue of its own for each death.
+class Victim {
+public:
+    explicit Victim(const Action& action)
+        : catalogue(std::make_unique<TestCatalogue>(QString(kSmallCatalogue) + kPictures)) {
+        CloseStore();
+        for (const char* name :
+             {"Pic1000301.dat", "Pic1000302.dat", "Pic1000303.dat", "Foto.jpg"}) {
+            QFile file(Folder() + name);
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray(name));
+        }
+        colleague = std::make_unique<ColleagueProcess>(Folder(), true);
+        for (const QString& line : action.before) {
+            EXPECT_NE(colleague->Ask(line), "") << qPrintable(line);
+        }
+        act = QString(action.act).replace("Foto.jpg", Folder() + "Foto.jpg");
+    }
+
+    QString Folder() const { return catalogue->Folder(); }
+
+    // How many writes the action has.
+    int CountWrites() {
+        colleague->Ask("arm " + QString::number(kNever));
+        EXPECT_NE(colleague->Ask(act), "");
+        return kNever - colleague->Ask("left").toInt();
+    }
+
+    void DieAt(int write) {
+        colleague->Ask("arm " + QString::number(write));
+        colleague->Ask(act);
+        colleague->Kill();
+    }
+
+private:
+    std::unique_ptr<TestCatalogue> catalogue;
+    std::unique_ptr<ColleagueProcess> colleague;
+    QString act;
+};
+
+std::set<int> PointsOf(int writes) {
+    std::set<int> points;
+    const int count = qEnvironmentVariableIsSet(kEveryWrite) ? writes : kUsualPoints;
+    for (int i = 0; i < count; ++i) {
+        points.insert(1 + i * (writes - 1) / std::max(count - 1, 1));
+    }
+    return points;
+}
+
+// Fields, texts and the product itself are written in this order: a later one is never new while an
+// earlier one is old.
+void CheckSave() {
+    const QString field =
+        Stored("SELECT FieldValue FROM ProductFields WHERE ProductId=10001 AND FieldDefId=0");
+    const QString title = Stored("SELECT FieldValue FROM MultiLangFields WHERE ItemId='10001' AND "
+                                 "FieldDefId=0 AND LangCode='ES'");
+    const QString price = Stored("SELECT PriceAmount FROM Products WHERE ProductId=10001");
+    const QString state = field + ' ' + title + ' ' + price;
+    const QStringList possible = {"antes antes 1", "después antes 1", "después después 1",
+                                  "después después 2"};
+    EXPECT_TRUE(possible.contains(state)) << qPrintable(state);
+}
+
+// Every product has all of its rows, and every picture its place and its file.
+void CheckRows() {
+    for (const int id : ProductIds) {
+        const QString number = QString::number(id);
+        EXPECT_EQ(Stored("SELECT count(*) FROM ProductFields WHERE ProductId=" + number), "5")
+            << id;
+        const QStringList pictures = Stored("SELECT OrderInForm, PicturePath FROM Pictures WHERE "
+                                            "ProductId=" +
+                                            number + " ORDER BY OrderInForm")
+                                         .split('|', Qt::SkipEmptyParts);
+        for (int place = 0; place < pictures.size(); ++place) {
+            EXPECT_EQ(pictures[place].section(';', 0, 0), QString::number(place));
+            EXPECT_TRUE(QFile::exists(DBpath + pictures[place].section(';', 1)));
+        }
+    }
+}
+
+// The next new product shows nothing of one that had its number before.
+void CheckNextProduct() {
+    ClickTool("Add");
+    const QString id = frmMain->txtProductId->text();
+    EXPECT_EQ(ControlText(frmMain->txtMLFields[0]) + ControlText(frmMain->txtMLFields[1]), "");
+    EXPECT_EQ(frmMain->txtFields[0]->text(), "blanco");
+    EXPECT_EQ(Stored("SELECT count(*) FROM ProductFields WHERE ProductId=" + id), "5");
+    EXPECT_EQ(Stored("SELECT count(*) FROM Pictures WHERE ProductId=" + id), "0");
+    EXPECT_EQ(Stored("SELECT count(*) FROM MultiLangFields WHERE TableName='Pictures' AND ItemId "
+                     "LIKE '" +
+                     id + "%'"),
+              "0");
+}
+
+void CheckAfter(const Action& action, const QString& folder) {
+    StartScreens(folder);
+    EXPECT_EQ(StoreCheck(), "ok");
+    EXPECT_TRUE(std::find(ProductIds.begin(), ProductIds.end(), 10002) != ProductIds.end());
+    CheckRows();
+    if (QString(action.name) == u"a save") {
+        CheckSave();
+    }
+    CheckNextProduct();
+    EndScreens();
+}
+
+} // namespace
+
+TEST(Killed, AtAnyWriteOfAnActionNothingAcknowledgedIsLostAndNothingHalfDoneIsSeen) {
+    const MemoryDisk disk;
+    for (const Action& action : kActions) {
+        const int writes = Victim(action).CountWrites();
+        ASSERT_GT(writes, 3) << action.name;
+        for (const int point : PointsOf(writes)) {
+            Victim victim(action);
+            victim.DieAt(point);
+            CheckAfter(action, victim.Folder());
+            ASSERT_FALSE(HasFailure()) << action.name << ", write " << point << " of " << writes;
+        }
+        std::cout << action.name << ": " << writes << " writes\n";
+    }
+}
