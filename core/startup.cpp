@@ -201,6 +201,9 @@ void StartProgram() {
     OpenCatalogue();
     frmMain->mnuConfig[kMenuOtherWebs]->setVisible(IsRealEstateFlavour());
     frmMain->show();
+    if (frmSplash != nullptr) { // it stays in front for the rest of its time
+        frmSplash->raise();
+    }
 }
 
 void EndProgram(bool& cancel) {
