@@ -59,7 +59,7 @@ void CheckIsStore(sqlite3* handle) {
 
 // Short and even waits: with the engine's own ones, which grow, a process that waits long is
 // overtaken by those that have just come.
-constexpr int kBusyStepMilliseconds = 5;
+constexpr int kBusyStepMilliseconds = 2;
 
 int WaitForOthers(void* waiting, int round) {
     auto* timer = static_cast<QElapsedTimer*>(waiting);
