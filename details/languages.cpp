@@ -7,6 +7,7 @@
 #include "store/languages.h"
 #include "store/langvalues.h"
 
+#include <QFile>
 #include <QIcon>
 #include <QToolButton>
 
@@ -17,16 +18,23 @@ namespace {
 void DressButton(QToolButton* button, const QString& code) {
     const QString caption = LanguageCaption(code);
     SetTag(button, code);
-    button->setIcon(code.isEmpty() ? QIcon() : QIcon(QStringLiteral(":/flags/%1.svg").arg(code)));
+    const QString flag = QStringLiteral(":/flags/%1.svg").arg(code);
+    button->setIcon(QFile::exists(flag) ? QIcon(flag) : QIcon());
+    button->setText(code); // shown where there is no flag
     button->setToolTip(caption);
     button->setAccessibleName(caption.isEmpty() ? code : caption);
     button->setVisible(!code.isEmpty());
-    button->setChecked(!code.isEmpty() && code == UICurrentLang);
 }
 
+// None is down where the language in use isn't among them: buttons that exclude each other would
+// keep the last one down.
 void MarkLanguage(const std::vector<QToolButton*>& optLang) {
     for (QToolButton* button : optLang) {
-        button->setChecked(Tag(button) == UICurrentLang);
+        button->setAutoExclusive(false);
+        button->setChecked(!Tag(button).isEmpty() && Tag(button) == UICurrentLang);
+    }
+    for (QToolButton* button : optLang) {
+        button->setAutoExclusive(true);
     }
 }
 
@@ -52,6 +60,7 @@ void ArrangeLangButtons(QWidget* fraLang, const std::vector<QToolButton*>& optLa
     for (qsizetype i = 0; i < static_cast<qsizetype>(optLang.size()); ++i) {
         DressButton(optLang[i], i < codes.size() ? codes[i] : QString());
     }
+    MarkLanguage(optLang);
     fraLang->setVisible(UserLangs.contains(kLanguageSeparator));
     LangButtonsReady = true;
 }

@@ -165,6 +165,7 @@ void optLang_Click(const QToolButton* button) {
 }
 
 void Form_Activate() {
+    const InputHold hold;
     ServeEvents();
     LoadThumbnails();
     Rows().MoveFirst();

@@ -7,6 +7,7 @@
 #include "editor/mainscreen.h"
 #include "editor/productlist.h"
 #include "forms/mainform.h"
+#include "platform/events.h"
 #include "platform/numbers.h"
 #include "platform/statement.h"
 #include "platform/storeengine.h"
@@ -241,7 +242,7 @@ void WhenDialogOpens(const std::function<void()>& act) {
     auto* clock = new QTimer(frmMain);
     QObject::connect(clock, &QTimer::timeout, frmMain, [clock, act] {
         const QPointer<QWidget> dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr || !dialog->isVisible()) {
+        if (dialog == nullptr || !dialog->isVisible() || InputIsHeld()) {
             return;
         }
         clock->deleteLater();
