@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
+#include <QFileDialog>
 #include <QPushButton>
 
 BoxAnswers::BoxAnswers(QMessageBox::StandardButton newAnswer) : answer(newAnswer) {
@@ -40,4 +41,22 @@ void BoxAnswers::Answer(QMessageBox* box) {
     } else {
         box->reject();
     }
+}
+
+PathChoice::PathChoice(const QString& newPath) : path(newPath) {
+    qApp->installEventFilter(this);
+}
+
+bool PathChoice::eventFilter(QObject* object, QEvent* event) {
+    auto* dialog = qobject_cast<QFileDialog*>(object);
+    if (dialog != nullptr && event->type() == QEvent::Show) {
+        title = dialog->windowTitle();
+        const auto choose = [dialog, chosen = path] {
+            dialog->selectFile(chosen);
+            static_cast<QDialog*>(dialog)->done(chosen.isEmpty() ? QDialog::Rejected
+                                                                 : QDialog::Accepted);
+        };
+        QMetaObject::invokeMethod(dialog, choose, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(object, event);
 }

@@ -31,3 +31,17 @@ private:
 
     QMessageBox::StandardButton answer;
 };
+
+// While it lives, every choice of a file or folder ends with this path, without a "/" behind it; an
+// empty one cancels.
+class PathChoice : public QObject {
+public:
+    explicit PathChoice(const QString& path);
+
+    QString title; // of the last choice
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    QString path;
+};

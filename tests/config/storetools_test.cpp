@@ -1,0 +1,78 @@
+// Moving and compacting the catalogue from the configuration.
+#include "config/configdialog.h"
+#include "config/storetools.h"
+#include "core/settings.h"
+#include "editor/productlist.h"
+#include "forms/configform.h"
+#include "forms/mainform.h"
+#include "store/store.h"
+#include "tests/support/boxes.h"
+#include "tests/support/program.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace {
+
+class StoreTools : public testing::Test {
+protected:
+    StoreTools() { SetTemplateLangs("ES|EN"); }
+
+    // Presses a tool with `path` as the answer to its question; returns what it told.
+    QString Press(int tool, const QString& path = {}) {
+        const BoxAnswers boxes;
+        const PathChoice choice(path);
+        WhenDialogOpens([this, tool] {
+            Click(frmConfig->cmdTools[static_cast<std::size_t>(tool)]);
+            cancelEnabled = frmConfig->cmdCancel->isEnabled();
+            folderShown = frmConfig->txtDBdir->text();
+        });
+        ShowConfig(kPageAdvanced);
+        return boxes.Texts();
+    }
+
+    TestProgram program;
+    bool cancelEnabled = true;
+    QString folderShown;
+};
+
+} // namespace
+
+TEST_F(StoreTools, CompactKeepsTheCatalogueAndTheProductOnScreen) {
+    Type(frmMain->txtMLFields[0], "Silla nueva");
+    EXPECT_EQ(Press(kToolCompact),
+              "El Compactado/Reparado de la Base de Datos finalizado con éxito");
+    EXPECT_FALSE(cancelEnabled);
+    EXPECT_TRUE(QFile::exists(DBpath + "Zandora.zdb.bak"));
+    EXPECT_EQ(ListText(), "A-1;Silla nueva;11|B-2;Mesa;2.000|C-3;Banco;30");
+    EXPECT_EQ(Press(kToolBackup), "");
+}
+
+TEST_F(StoreTools, MoveTakesTheFilesToAnotherFolderAndOnlyThere) {
+    const QString old = program.Folder();
+    const QTemporaryDir other;
+    EXPECT_EQ(Press(kToolMove), "Se ha cancelado la operación de mover la Base de Datos");
+    EXPECT_EQ(Press(kToolMove, old.chopped(1)),
+              "No se ha movido la Base de Datos, dado que esta ya se "
+              "encuentra en el Directorio \n" +
+                  old);
+    EXPECT_EQ(Press(kToolMove, other.path()),
+              "Los archivos de la Base de Datos se han movido con éxito");
+    EXPECT_EQ(folderShown, other.path() + '/');
+    EXPECT_EQ(DBpath, other.path() + '/');
+    EXPECT_FALSE(QFile::exists(old + "Zandora.zdb"));
+    EXPECT_TRUE(StoreOpen);
+    EXPECT_EQ(ListRowCount(), 3);
+}
+
+TEST_F(StoreTools, ACatalogueThatIsGoneAfterwardsIsAskedFor) {
+    const QTemporaryDir other;
+    const QString gone = program.Folder() + "Zandora.zdb";
+    ASSERT_TRUE(QFile::copy(gone, other.filePath("Zandora.zdb")));
+    QFile::remove(gone);
+    const QString told = Press(kToolBackup, other.path());
+    EXPECT_TRUE(told.startsWith("No se ha podido abrir la Base de Datos.")) << told.toStdString();
+    EXPECT_EQ(folderShown, other.path() + '/');
+    EXPECT_EQ(DBpath, other.path() + '/');
+    EXPECT_EQ(ListRowCount(), 3);
+}
