@@ -16,7 +16,9 @@
 #include "platform/controlevents.h"
 #include "platform/dialogs.h"
 #include "publish/steps.h"
+#include "store/corpinfo.h"
 #include "store/fielddefs.h"
+#include "store/languages.h"
 #include "store/productref.h"
 #include "store/products.h"
 #include "store/store.h"
@@ -71,6 +73,9 @@ void OpenConfig(int page) {
             ShowConfig(kPageAdvanced);
         }
         CurrentListSQL.clear();
+        LoadLanguages();
+        ArrangeLangButtons(frmMain->fraLang, frmMain->optLang);
+        LoadCorpInfo();
         LoadFieldDefs();
         RefreshProductList();
     }

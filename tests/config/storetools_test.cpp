@@ -5,6 +5,8 @@
 #include "editor/productlist.h"
 #include "forms/configform.h"
 #include "forms/mainform.h"
+#include "platform/storeengine.h"
+#include "store/corpinfo.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"
 #include "tests/support/program.h"
@@ -75,4 +77,22 @@ TEST_F(StoreTools, ACatalogueThatIsGoneAfterwardsIsAskedFor) {
     EXPECT_EQ(folderShown, other.path() + '/');
     EXPECT_EQ(DBpath, other.path() + '/');
     EXPECT_EQ(ListRowCount(), 3);
+}
+
+TEST_F(StoreTools, AnotherFolderShowsItsCatalogueWithItsCompanyAndLanguages) {
+    const QTemporaryDir other;
+    ASSERT_TRUE(QFile::copy(program.Folder() + "Zandora.zdb", other.filePath("Zandora.zdb")));
+    const auto store = StoreConnection::Open(other.filePath("Zandora.zdb"));
+    store->Execute("UPDATE CorpInfo SET Name = 'Otra'; UPDATE Products SET ProductRef = 'Z-9' "
+                   "WHERE ProductId = 10001; UPDATE Languages SET Caption = 'Alemán' WHERE "
+                   "LangCode = 'EN';");
+    WhenDialogOpens([&other] {
+        Type(frmConfig->txtDBdir, other.path());
+        Click(frmConfig->cmdOK);
+    });
+    frmMain->mnuConfig[kPageAdvanced]->trigger();
+    EXPECT_EQ(DBpath, other.path() + '/');
+    EXPECT_TRUE(ListText().startsWith("Z-9;")) << ListText().toStdString();
+    EXPECT_EQ(CorpInfoData.Name, "Otra");
+    EXPECT_EQ(frmMain->optLang[1]->toolTip(), "Alemán");
 }
