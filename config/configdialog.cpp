@@ -77,19 +77,13 @@ void FillSettings(ConfigForm& form) {
     EnableStorage(form);
 }
 
-// The list shows descriptions in the default language: its statement gets the new code.
-void ChangeListLanguage(const QString& before) {
-    if (DefaultLang != before) {
-        CurrentListSQL.replace("LangCode='" + before + "'", "LangCode='" + DefaultLang + "'");
-        RefreshProductList();
-    }
-}
-
 void ApplyLanguages(const ConfigForm& form) {
     const QString before = DefaultLang;
     const LanguageChoice choice = ChosenLanguages(form);
     SetUserLangs(choice.userLangs, choice.defaultLang);
-    ChangeListLanguage(before);
+    if (DefaultLang != before) {
+        ChangeListLanguage(before, DefaultLang);
+    }
     if (!UserLangs.split(u'|').contains(UICurrentLang)) {
         ReturnToLanguage(DefaultLang);
     }

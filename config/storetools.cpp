@@ -98,8 +98,7 @@ void cmdTools_Click(ConfigForm& form, int tool) {
     form.setEnabled(true);
     OpenStoreAgain(form);
     LoadFieldDefs();
-    CurrentListSQL.clear();
-    RefreshProductList();
+    RestartProductList();
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
-#include "core/vocabulary.h"
 #include "details/assistance.h"
 #include "details/languages.h"
 #include "details/thumbnails.h"
@@ -194,8 +193,7 @@ void Form_Unload(bool& cancel) {
     if (cancel) {
         return;
     }
-    frmMain->txtPicture->setText(
-        QString(Messages[0]).replace("%1", QString::number(Rows().RecordCount())));
+    ShowPictureCount();
     ForgetPictureFolder();
 }
 

@@ -72,12 +72,11 @@ void OpenConfig(int page) {
         while (OpenStore() != 0) {
             ShowConfig(kPageAdvanced);
         }
-        CurrentListSQL.clear();
         LoadLanguages();
         ArrangeLangButtons(frmMain->fraLang, frmMain->optLang);
         LoadCorpInfo();
         LoadFieldDefs();
-        RefreshProductList();
+        RestartProductList();
     }
     RefreshPublishTab(true);
 }

@@ -36,10 +36,22 @@ ProductListModel& List() {
     return *frmMain->productList;
 }
 
-ProductRow RowOf(const Recordset& product) {
-    const auto status = product.Integer(u"IsNew");
-    return {{product.Text(u"ProductRef"), product.Text(u"MLShortDesc"),
-             FormatNumber(product.Number(u"PriceAmount"), kListPrice)},
+// Places of the statement's columns, looked up once for all rows.
+struct ListColumns {
+    explicit ListColumns(const Recordset& list)
+        : id(list.Column(u"ProductId")), reference(list.Column(u"ProductRef")),
+          price(list.Column(u"PriceAmount")), status(list.Column(u"IsNew")),
+          shortDesc(list.Column(u"MLShortDesc")) {}
+    int id;
+    int reference;
+    int price;
+    int status;
+    int shortDesc;
+};
+
+ProductRow RowOf(const Recordset& product, const ListColumns& columns, qint64 status) {
+    return {{product.Text(columns.reference), product.Text(columns.shortDesc),
+             FormatNumber(CellNumber(product.Value(columns.price)), kListPrice)},
             status == kStatusArchived,
             status == kStatusFeatured};
 }
@@ -49,6 +61,7 @@ bool ListIsParked() {
     return adcData[kCursorList].Source() == QLatin1StringView(kParkStatement);
 }
 
+// The row whose number, as text, is `productId`; -1 if there is none.
 int RowOfProduct(const QString& productId) {
     const auto found = std::find(ProductIds.begin(), ProductIds.end(), productId.toInt());
     return found == ProductIds.end() ? -1 : static_cast<int>(found - ProductIds.begin());
@@ -152,19 +165,19 @@ void ReadRows(int& position, const QString& productId) {
     std::vector<int> ids;
     rows.reserve(products.RecordCount());
     ids.reserve(products.RecordCount());
+    const ListColumns columns(products);
     for (products.MoveFirst(); products.HasRow(); products.MoveNext()) {
-        const auto id = static_cast<int>(products.Integer(u"ProductId"));
-        ids.push_back(id);
-        if (QString::number(id) == productId) {
-            position = products.AbsolutePosition();
-        }
-        FeaturedCount += products.Integer(u"IsNew") == kStatusFeatured ? 1 : 0;
-        rows.push_back(RowOf(products));
+        const qint64 status = CellInteger(products.Value(columns.status));
+        ids.push_back(static_cast<int>(CellInteger(products.Value(columns.id))));
+        FeaturedCount += status == kStatusFeatured ? 1 : 0;
+        rows.push_back(RowOf(products, columns, status));
         DoEvents();
     }
     const FillingGuard filling;
     ProductIds = std::move(ids);
     List().SetRows(std::move(rows));
+    const int row = RowOfProduct(productId);
+    position = row < 0 ? position : row + 1;
 }
 
 } // namespace
@@ -207,6 +220,16 @@ void FilterProductList(const QString& filter) {
     CurrentListSQL = adcData[kCursorList].Source();
 }
 
+void ChangeListLanguage(const QString& before, const QString& after) {
+    CurrentListSQL.replace("LangCode='" + before + "'", "LangCode='" + after + "'");
+    RefreshProductList();
+}
+
+void RestartProductList() {
+    CurrentListSQL.clear();
+    RefreshProductList();
+}
+
 void ReleaseCurrent() {
     if (ListRowCount() > 0) {
         SelectedRef = List().Text(SelectedRow(), 0);
@@ -226,14 +249,12 @@ void RefreshProductList(int& position, QString productId, bool keepEditor) {
         clear = productId.isEmpty() || productId != frmMain->txtProductId->text();
     }
     FeaturedCount = 0;
-    if (!keepEditor && clear) {
-        ClearProductForm();
-    }
     ReadRows(position, productId);
     CurrentListSQL = adcData[kCursorList].Source();
     ParkCursor(kCursorList); // the list on screen keeps no rows of the store
     SelectRow(position - 1);
     if ((!keepEditor && clear) || !EditorIsListed()) {
+        ClearProductForm();
         LoadSelectedProduct();
     }
     RefreshButtons();
@@ -267,7 +288,6 @@ void RemoveFromList() {
 void LoadSelectedProduct() {
     const int row = SelectedRow();
     if (row < 0) {
-        ClearProductForm();
         return;
     }
     if (LoadProduct(QString::number(ProductIds[row])) == ProductState::Gone) {

@@ -18,6 +18,14 @@ void SortProductList(int selector, int column, bool ascending);
 // Gives cursor 2 a condition, or none; the order stays.
 void FilterProductList(const QString& filter);
 
+// The list shows descriptions in the default language: its statement gets the code of another one,
+// and the list is filled again.
+void ChangeListLanguage(const QString& before, const QString& after);
+
+// Forgets search and order, so that the next fill begins with the base statement: for another
+// catalogue in place of this one.
+void RestartProductList();
+
 // Saves the open product and notes selection and sort, before the list is filled anew or the store
 // is closed.
 void ReleaseCurrent();

@@ -171,9 +171,14 @@ void LoadPictures() {
     const double productId = LeadingNumber(frmMain->txtProductId->text());
     RunQuery(kCursorPictures,
              QString(kPicturesStatement).replace("%1", QString::number(productId, 'f', 0)));
+    ShowPictureCount();
+}
+
+void ShowPictureCount() {
     const int count = Rows().RecordCount();
     frmMain->txtPicture->setText(
         QString(Messages[kMessageCountOfPictures]).replace("%1", QString::number(count)));
+    frmMain->txtPicture->setCursorPosition(0); // a narrow box shows the beginning
 }
 
 void ShowPictureRecord() {

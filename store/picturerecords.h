@@ -12,6 +12,9 @@
 // Reads the open product's rows, in album order, and shows their count in the main form.
 void LoadPictures();
 
+// Writes the number of rows on cursor 3 into the main form.
+void ShowPictureCount();
+
 // Fills the album's boxes from the current row, or empties them when there is none.
 void ShowPictureRecord();
 void ClearPictureBoxes();
