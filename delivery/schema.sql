@@ -61,6 +61,12 @@ CREATE TABLE MultiLangFields (
 CREATE INDEX MultiLangFieldsByItem
     ON MultiLangFields (TableName, ItemId, LangCode, FieldDefId);
 
+-- The categories in use, which the editor suggests at each key. The engine's own order of bytes, so
+-- that other tools can write the table.
+CREATE INDEX CategoriesInUse
+    ON MultiLangFields (LangCode, FieldValue COLLATE BINARY)
+    WHERE TableName='Products' AND FieldDefId=2;
+
 -- What the texts per language are; FieldName in upper case is their tag in a design.
 CREATE TABLE MultiLangFieldDef (
     TableName     TEXT COLLATE NOCASE NOT NULL,    -- as in MultiLangFields

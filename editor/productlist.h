@@ -47,6 +47,6 @@ void TellProductGone();
 // Connects the list's clicks and keys and the refresh timer.
 void ConnectProductList();
 
-// Fills the editor from the selected row, or empties it without one; a product that another user
-// has deleted is told and taken out of the list.
+// Fills the editor from the selected row; a product that another user has deleted is told and taken
+// out of the list.
 void LoadSelectedProduct();

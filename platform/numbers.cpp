@@ -68,6 +68,9 @@ Digits ShortestDigits(double magnitude) {
 
 // Cuts or pads the fraction to `decimals`, a half away from zero.
 Digits Rounded(const Digits& digits, qsizetype decimals) {
+    if (digits.fraction.size() == decimals) {
+        return digits;
+    }
     const bool up = digits.fraction.size() > decimals && digits.fraction[decimals] >= '5';
     QByteArray all = digits.whole + digits.fraction.leftJustified(decimals, '0', true);
     for (qsizetype at = all.size() - 1; up && at >= -1; --at) {
@@ -86,6 +89,7 @@ Digits Rounded(const Digits& digits, qsizetype decimals) {
 
 QString Grouped(const QByteArray& whole, QChar mark) {
     QString text;
+    text.reserve(whole.size() + whole.size() / kGroupDigits);
     for (qsizetype at = 0; at < whole.size(); ++at) {
         if (at > 0 && (whole.size() - at) % kGroupDigits == 0) {
             text += mark;
