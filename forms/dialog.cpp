@@ -2,7 +2,15 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTimer>
+
+namespace {
+
+// What a desktop draws around a window, pixels: no form comes up larger than the screen.
+constexpr QSize kWindowFrame(8, 36);
+
+} // namespace
 
 Dialog::Dialog(QWidget* parent) : QDialog(parent) {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -28,6 +36,7 @@ void Dialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!activated) {
         activated = true;
+        resize(size().boundedTo(screen()->availableSize() - kWindowFrame));
         QTimer::singleShot(0, this, &Dialog::Activated);
     }
 }

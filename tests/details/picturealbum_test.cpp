@@ -11,6 +11,7 @@
 #include "tests/support/testpictures.h"
 
 #include <QFile>
+#include <QScreen>
 #include <gtest/gtest.h>
 
 namespace {
@@ -80,6 +81,7 @@ int Selected() {
 TEST_F(Album, SelectingEnablesWhatIsPossibleAndTextsAreKeptPerPicture) {
     Open([] {
         EXPECT_EQ(frmPictures->windowTitle(), "Fotografías - A-1");
+        EXPECT_LE(frmPictures->frameGeometry().width(), frmPictures->screen()->size().width());
         EXPECT_EQ(Names(), "01 02 03");
         EXPECT_EQ(Enabled(), "Add Del Change MoveDn");
         Type(frmPictures->txtMLFields[0], "Frente");
