@@ -6,6 +6,9 @@
 
 namespace {
 
+constexpr int kAgainMilliseconds = 10;
+constexpr int kPulseMilliseconds = 5;
+
 void InitialiseOnce() {
     static std::once_flag flag;
     std::call_once(flag, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
@@ -95,8 +98,18 @@ std::unique_ptr<QSocketNotifier> CurlLoop::MakeNotifier(curl_socket_t socket, bo
 
 void CurlLoop::Act(curl_socket_t socket, int events) {
     int left = 0;
-    curl_multi_socket_action(multi, socket, events, &left);
+    if (curl_multi_socket_action(multi, socket, events, &left) == CURLM_RECURSIVE_API_CALL) {
+        timer->start(
+            kAgainMilliseconds); // events served inside a callback: what was due comes again
+        return;
+    }
+    curl_multi_perform(multi, &left);
     CollectFinished();
+    // A data connection whose port came with the last reply is left to the next call, and no socket
+    // or timer of libcurl's announces it.
+    if (!running.empty() && (!timer->isActive() || timer->remainingTime() > kPulseMilliseconds)) {
+        timer->start(kPulseMilliseconds);
+    }
 }
 
 void CurlLoop::CollectFinished() {

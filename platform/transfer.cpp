@@ -97,7 +97,6 @@ std::pair<QString, QString> PutOperands(const QString& operands) {
 
 // What belongs to libcurl: the handle, the loop with its connection, and what callbacks fill.
 struct TransferClient::Request {
-    CurlLoop loop;
     CURL* easy = curl_easy_init();
     curl_slist* quote = nullptr;
     QFile upload;
@@ -110,6 +109,7 @@ struct TransferClient::Request {
     bool changesFolder = false;
     QSet<int> controlSockets; // open ones
     TransferClient* owner;
+    CurlLoop loop; // the last member: while it goes, connections are closed through the callbacks
 
     explicit Request(TransferClient* client) : owner(client) {}
 
@@ -149,6 +149,14 @@ struct TransferClient::Request {
         return size * count;
     }
 
+    // libcurl waits for the reply to an upload without returning to the event loop, but comes by
+    // here once a second: the window stays alive and can be closed while a server makes us wait.
+    static int OnProgress(void* /*self*/, curl_off_t /*toGet*/, curl_off_t /*got*/,
+                          curl_off_t /*toSend*/, curl_off_t /*sent*/) {
+        DoEvents();
+        return 0;
+    }
+
     static curl_socket_t OnOpenSocket(void* self, curlsocktype /*purpose*/,
                                       curl_sockaddr* address) {
         const int opened =
@@ -186,7 +194,7 @@ struct TransferClient::Request {
     }
 
     // A fresh set of options; connections stay.
-    void Reset(int timeoutSeconds) {
+    void Reset(int seconds) {
         curl_easy_reset(easy);
         curl_slist_free_all(quote);
         quote = nullptr;
@@ -198,11 +206,13 @@ struct TransferClient::Request {
         bodyRead = 0;
         changesFolder = false;
         curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+        curl_easy_setopt(easy, CURLOPT_NOPROGRESS, 0L);
+        curl_easy_setopt(easy, CURLOPT_XFERINFOFUNCTION, OnProgress);
         curl_easy_setopt(easy, CURLOPT_PROXY, "");
-        curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT, long{timeoutSeconds});
-        curl_easy_setopt(easy, CURLOPT_SERVER_RESPONSE_TIMEOUT, long{timeoutSeconds});
+        curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT, long{seconds});
+        curl_easy_setopt(easy, CURLOPT_SERVER_RESPONSE_TIMEOUT, long{seconds});
         curl_easy_setopt(easy, CURLOPT_LOW_SPEED_LIMIT, 1L);
-        curl_easy_setopt(easy, CURLOPT_LOW_SPEED_TIME, long{timeoutSeconds});
+        curl_easy_setopt(easy, CURLOPT_LOW_SPEED_TIME, long{seconds});
         curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, OnOpenSocket);
         curl_easy_setopt(easy, CURLOPT_OPENSOCKETDATA, this);
         curl_easy_setopt(easy, CURLOPT_CLOSESOCKETFUNCTION, OnCloseSocket);

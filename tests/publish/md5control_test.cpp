@@ -76,7 +76,8 @@ TEST_F(ControlFile, NeverMatchesANameOfMoreThanSixtyCharacters) {
     EXPECT_EQ(Bytes().size(), 2 * 94);
 }
 
-// Updating a known entry drops the later ones from memory when the next new name comes; they stay in the file.
+// Updating a known entry drops the later ones from memory when the next new name comes; they stay
+// in the file.
 TEST_F(ControlFile, ForgetsLaterEntriesAfterAnUpdateAndAppendsThemAgain) {
     Write(Record("a.html", kHashA) + Record("b.html", kHashA) + Record("c.html", kHashA));
     RecordFileSent("a.html", kHashB);
@@ -91,8 +92,8 @@ TEST_F(ControlFile, ForgetsLaterEntriesAfterAnUpdateAndAppendsThemAgain) {
     EXPECT_TRUE(IsFileUnchanged("c.html", kHashB));
 }
 
-// After a load of n records the first new entry takes index n + 1 of the table but record n of the file, so that its update
-// writes behind the end of the file.
+// After a load of n records the first new entry takes index n + 1 of the table but record n of the
+// file, so that its update writes behind the end of the file.
 TEST_F(ControlFile, UpdatesByTableIndexEvenWhereRecordNumbersHaveParted) {
     Write(Record("a.html", kHashA));
     RecordFileSent("new.html", kHashA);

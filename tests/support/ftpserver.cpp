@@ -173,7 +173,7 @@ void FtpSessions::OpenPassive(QTcpSocket* session, bool extended) {
 void FtpSessions::Receive(QTcpSocket* session, const QByteArray& path) {
     receiving.clear();
     Say(session, "150 Go on");
-    passive->disconnect(this);
+    disconnect(passive, &QTcpServer::newConnection, nullptr, nullptr);
     if (passive->hasPendingConnections()) {
         TakeConnection(session, path);
     } else {
@@ -184,6 +184,7 @@ void FtpSessions::Receive(QTcpSocket* session, const QByteArray& path) {
 
 // The peer may have sent everything and gone before the server looks.
 void FtpSessions::TakeConnection(QTcpSocket* session, const QByteArray& path) {
+    disconnect(passive, &QTcpServer::newConnection, nullptr, nullptr);
     QTcpSocket* transfer = passive->nextPendingConnection();
     passive->close();
     connect(transfer, &QTcpSocket::readyRead, session,
