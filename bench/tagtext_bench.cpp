@@ -82,7 +82,7 @@ void ExpandByTagText(benchmark::State& state) {
         for (const auto& [tag, value] : work.tags) {
             page.Replace(tag, value);
         }
-        benchmark::DoNotOptimize(page.Take());
+        benchmark::DoNotOptimize(page.Text());
     }
     state.counters["page bytes"] = double(work.page.size());
 }

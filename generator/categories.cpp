@@ -63,7 +63,7 @@ struct CategoryRows {
 QByteArray ExpandRow(TagText row, const QByteArray& code, const QString& name) {
     row.Replace("%%CHOICEVALUE%%"_ba, code);
     row.Replace("%%CHOICE%%"_ba, ToAnsi(name));
-    return row.Take();
+    return row.Text();
 }
 
 QByteArray TreeText(const SectionParts& parts, const CategoryRows& rows, const CategoryTree& tree) {

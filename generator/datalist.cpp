@@ -211,6 +211,6 @@ void BuildProductDataList(SiteSnapshot& snapshot) {
         TagText text = sectionText;
         ReplaceLists(text, lists, static_cast<size_t>(lang));
         AddOutputFile(
-            {TemplateSections[section].Name, WebLangs[lang], {}, false, TextToBytes(text.Take())});
+            {TemplateSections[section].Name, WebLangs[lang], {}, false, TextToBytes(text.Text())});
     }
 }

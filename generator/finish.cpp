@@ -155,10 +155,12 @@ struct FinishPass {
     std::vector<TagValues> languageTags; // in the order of WebLangs
     QByteArray homeComment;
     QByteArray comment;
+    TagText text; // of the file being finished
 };
 
-void FinishText(OutputFile& file, const QString& upperName, const FinishPass& pass) {
-    TagText text(std::exchange(file.Data, {}));
+void FinishText(OutputFile& file, const QString& upperName, FinishPass& pass) {
+    TagText& text = pass.text;
+    text.SetText(std::exchange(file.Data, {}));
     if (!upperName.endsWith(u".CSS")) {
         text.Prepend(upperName == u"INDEX.HTML" ? pass.homeComment : pass.comment);
     }
@@ -174,13 +176,13 @@ void FinishText(OutputFile& file, const QString& upperName, const FinishPass& pa
         ApplyLanguageStrings(text, file.Lang);
         file.Name.replace(u"%LID%"_s, file.Lang);
     }
-    file.Data = TextToBytes(text.Take());
+    file.Data = TextToBytes(text.Text());
 }
 
 } // namespace
 
 void FinishSite(SiteSnapshot& snapshot) {
-    const FinishPass pass(snapshot);
+    FinishPass pass(snapshot);
     const int count = static_cast<int>(OutputFiles.size());
     for (int place = 0; place < count && !AbortPublish; ++place) {
         SetProgress(place, count, 0, 0);

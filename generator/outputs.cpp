@@ -37,12 +37,10 @@ bool RemoveExisting(const QString& path) {
 }
 
 bool WriteOutput(const QString& path, const QByteArray& data) {
-    if (!RemoveExisting(path)) {
-        return false;
-    }
     QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
-           file.write(data) == data.size() && file.flush();
+    constexpr auto kNewFile = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
+    return (file.open(kNewFile) || (RemoveExisting(path) && file.open(kNewFile))) &&
+           file.write(data) == data.size();
 }
 
 // Whether `name` is that of a catalogue's own file; without regard to case, since the folder may

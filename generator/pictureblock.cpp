@@ -21,7 +21,7 @@ QByteArray ExpandPicture(TagText text, const PictureRow& row, const QString& lan
     text.Replace("%%PRODPICTUREID%%"_ba, ToAnsi(row.number));
     text.Replace("%LID%"_ba, ToAnsi(lang));
     ReplaceFields(text, texts, EmptyShows::Nothing);
-    return text.Take();
+    return text.Text();
 }
 
 QString PicturePageName(QString name, const PictureRow& row, const QString& lang) {

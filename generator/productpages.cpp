@@ -31,6 +31,7 @@ struct PagePass {
     FieldSources sources;
     PictureFrames frames;
     TagText body;
+    TagText page; // the one being made
     QString namePattern;
     int marker;
     QString pageName;             // of the language shown in the editor
@@ -83,7 +84,8 @@ void ReplaceInName(QString& name, const SiteProduct& row) {
 // With the product's fields and texts loaded.
 void BuildPage(PagePass& pass, const SiteProduct& row, qsizetype place) {
     const QString& lang = WebLangs[place];
-    TagText body = pass.body;
+    TagText& body = pass.page;
+    body = pass.body;
     QString name = pass.namePattern;
     ReplaceProductTags(body, row);
     body.Replace("%%PRODUCTREF%%"_ba, ToAnsi(row.ProductRef));
@@ -99,7 +101,7 @@ void BuildPage(PagePass& pass, const SiteProduct& row, qsizetype place) {
     if (body.MayHold("%%MAINPICTUREID%%"_ba)) {
         body.Replace("%%MAINPICTUREID%%"_ba, ToAnsi(MainPictureId(row.ProductId, pictures)));
     }
-    AddOutputFile({name, lang, {}, false, TextToBytes(body.Take())});
+    AddOutputFile({name, lang, {}, false, TextToBytes(body.Text())});
     if (lang == UICurrentLang) {
         pass.pageName = TrimBlanks(name.replace(u"%LID%"_s, lang));
     }

@@ -62,5 +62,5 @@ QByteArray ExpandListRow(const TagText& middle, const SiteProduct& row, const QS
     ReplaceFields(text, list, EmptyShows::Nothing);
     ReplaceProductTexts(text, LoadLangFields(sources, row.ProductId, u"Products"_s, lang));
     text.Replace("%%MAINPICTUREID%%", ToAnsi(MainPictureId(row.ProductId, pictures)));
-    return text.Take();
+    return text.Text();
 }

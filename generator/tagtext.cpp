@@ -37,9 +37,9 @@ quint32 KeyMask(qsizetype size) {
     return KeyOf(kOnes, qMin(size, kKeyStart + kKeySize));
 }
 
-bool HasAt(const QByteArray& text, qsizetype place, QByteArrayView what) {
+bool HasAt(QByteArrayView text, qsizetype place, QByteArrayView what) {
     return text.size() - place >= what.size() &&
-           std::memcmp(text.constData() + place, what.constData(), std::size_t(what.size())) == 0;
+           std::memcmp(text.data() + place, what.data(), std::size_t(what.size())) == 0;
 }
 
 bool AnyKeyEquals(const quint32* keys, quint32 key, quint32 mask) {
@@ -50,17 +50,32 @@ bool AnyKeyEquals(const quint32* keys, quint32 key, quint32 mask) {
     return hits != 0;
 }
 
-template <typename List> void AppendSigns(const QByteArray& text, quint32 offset, List& signs) {
-    for (qsizetype i = text.indexOf(kSign); i >= 0; i = text.indexOf(kSign, i + 1)) {
-        signs.push_back(offset + quint32(i));
+template <typename List> void AppendSigns(QByteArrayView text, List& signs) {
+    const char* const start = text.data();
+    const char* const end = start + text.size();
+    for (const char* at = start; at != end; ++at) {
+        at = static_cast<const char*>(std::memchr(at, kSign, std::size_t(end - at)));
+        if (at == nullptr) {
+            break;
+        }
+        signs.push_back(quint32(at - start));
     }
 }
 
+// The other half of every rewrite: the new text and its marks arise here and change places with the
+// old ones, so that rewriting a page takes no new memory.
+std::string spareText;
+std::vector<quint32> spareMarks;
+std::vector<quint32> spareKeys;
+
 } // namespace
 
-TagText::TagText(QByteArray newText) : text(std::move(newText)) {
-    AppendSigns(text, 0, marks);
-    ReadKeys(0);
+void TagText::SetText(QByteArrayView newText) {
+    text.assign(newText.data(), std::size_t(newText.size()));
+    marks.clear();
+    AppendSigns(text, marks);
+    keys.resize(marks.size());
+    ReadKeys(0, newText.size());
 }
 
 void TagText::Replace(const QByteArray& tag, const QByteArray& value) {
@@ -89,12 +104,6 @@ bool TagText::MayHold(const QByteArray& tag) const {
     return !FindAll(TrimBlanks(tag)).isEmpty();
 }
 
-QByteArray TagText::Take() {
-    marks.clear();
-    keys.clear();
-    return std::exchange(text, {});
-}
-
 // All places of `needle`, also such as overlap; none of an empty one.
 TagText::Places TagText::FindAll(const QByteArray& needle) const {
     Places places;
@@ -106,12 +115,12 @@ TagText::Places TagText::FindAll(const QByteArray& needle) const {
         return places;
     }
     // The C library's search is some three times as fast as the standard containers'.
-    const char* const end = text.constData() + text.size();
-    const char* from = text.constData();
+    const char* const end = text.data() + text.size();
+    const char* from = text.data();
     while (const void* hit = memmem(from, std::size_t(end - from), needle.constData(),
                                     std::size_t(needle.size()))) {
         from = static_cast<const char*>(hit);
-        places.push_back(quint32(from - text.constData()));
+        places.push_back(quint32(from - text.data()));
         ++from;
     }
     return places;
@@ -145,54 +154,67 @@ void TagText::Rewrite(const Places& found, qsizetype length, const QByteArray& v
             places.push_back(place);
         }
     }
-    QByteArray fresh(text.size() + places.size() * (value.size() - length), Qt::Uninitialized);
-    const char* from = text.constData();
-    char* to = fresh.data();
-    for (const quint32 place : places) {
-        to = std::copy(from, text.constData() + place, to);
-        to = std::copy(value.cbegin(), value.cend(), to);
-        from = text.constData() + place + length;
-    }
-    std::copy(from, text.cend(), to);
-    text = std::move(fresh);
-    ShiftMarks(places, length, value);
-}
-
-// Brings the marks up to what Rewrite did to the text.
-void TagText::ShiftMarks(const Places& places, qsizetype length, const QByteArray& value) {
-    QVarLengthArray<quint32, 64> valueMarks;
-    AppendSigns(value, 0, valueMarks);
-    const auto first = std::lower_bound(marks.cbegin(), marks.cend(), places.front());
-    std::vector<quint32> moved(marks.cbegin(), first);
-    moved.reserve(marks.size() + std::size_t(valueMarks.size() * places.size()));
+    RewriteMarks(places, length, value);
+    RewriteText(places, length, value);
+    // A key reaches forward, so that those in front of a new value have changed too.
     qint64 shift = 0;
-    auto mark = first;
     for (const quint32 place : places) {
-        for (; mark != marks.cend() && *mark < place; ++mark) {
-            moved.push_back(quint32(*mark + shift));
-        }
-        for (const quint32 valueMark : valueMarks) {
-            moved.push_back(quint32(place + shift + valueMark));
-        }
-        while (mark != marks.cend() && *mark < place + length) {
-            ++mark;
-        }
+        const qint64 start = place + shift;
+        const auto stale =
+            std::upper_bound(marks.cbegin(), marks.cend(), start - kKeyStart - kKeySize);
+        ReadKeys(std::size_t(stale - marks.cbegin()), start + value.size());
         shift += value.size() - length;
     }
-    for (; mark != marks.cend(); ++mark) {
-        moved.push_back(quint32(*mark + shift));
-    }
-    marks.swap(moved);
-    // Keys reach forward: some in front of the first place have changed too.
-    const qint64 reach = qint64(places.front()) - kKeyStart - kKeySize;
-    const auto stale = std::upper_bound(marks.cbegin(), marks.cend(), reach);
-    ReadKeys(std::size_t(stale - marks.cbegin()));
 }
 
-// Reads the keys of all marks from index `first` on.
-void TagText::ReadKeys(std::size_t first) {
-    keys.resize(marks.size());
-    for (std::size_t i = first; i < marks.size(); ++i) {
-        keys[i] = KeyOf(text.constData() + marks[i], text.size() - marks[i]);
+void TagText::RewriteText(const Places& places, qsizetype length, const QByteArray& value) {
+    spareText.clear();
+    std::size_t from = 0;
+    for (const quint32 place : places) {
+        spareText.append(text, from, place - from);
+        spareText.append(value.constData(), std::size_t(value.size()));
+        from = place + std::size_t(length);
+    }
+    spareText.append(text, from);
+    text.swap(spareText);
+}
+
+// Moves the marks to where the text will have them, together with their keys; the new values' marks
+// have none yet.
+void TagText::RewriteMarks(const Places& places, qsizetype length, const QByteArray& value) {
+    QVarLengthArray<quint32, 64> valueMarks;
+    AppendSigns(value, valueMarks);
+    spareMarks.clear();
+    spareKeys.clear();
+    auto mark = marks.cbegin();
+    qint64 shift = 0;
+    const auto moveUpTo = [&](std::vector<quint32>::const_iterator end) {
+        const auto key = keys.cbegin() + (mark - marks.cbegin());
+        spareKeys.insert(spareKeys.end(), key, key + (end - mark));
+        const std::size_t start = spareMarks.size();
+        spareMarks.insert(spareMarks.end(), mark, end);
+        for (std::size_t i = start; i < spareMarks.size(); ++i) {
+            spareMarks[i] += quint32(shift);
+        }
+        mark = end;
+    };
+    for (const quint32 place : places) {
+        moveUpTo(std::lower_bound(mark, marks.cend(), place));
+        for (const quint32 valueMark : valueMarks) {
+            spareMarks.push_back(quint32(place + shift + valueMark));
+        }
+        spareKeys.resize(spareMarks.size());
+        mark = std::lower_bound(mark, marks.cend(), place + length);
+        shift += value.size() - length;
+    }
+    moveUpTo(marks.cend());
+    marks.swap(spareMarks);
+    keys.swap(spareKeys);
+}
+
+// Reads the keys of the marks from the given one on that stand before `end`.
+void TagText::ReadKeys(std::size_t mark, qint64 end) {
+    for (; mark < marks.size() && marks[mark] < end; ++mark) {
+        keys[mark] = KeyOf(text.data() + marks[mark], qsizetype(text.size()) - marks[mark]);
     }
 }

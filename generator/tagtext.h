@@ -4,20 +4,24 @@
 // A page holds some of a hundred possible tags. Searching it for each of them in two spellings is
 // what makes generation slow, so the text knows where its percent signs stand and what follows
 // them, and a tag that begins with one and isn't there costs a glance at that list. Values may
-// bring tags of their own: the list follows every replacement. Copies are cheap until they change:
-// make one TagText of a section and copy it for each product.
+// bring tags of their own: the list follows every replacement. Make one TagText of a section and
+// assign it to the same other one for each product: that takes no new memory.
 #pragma once
 
 #include <QByteArray>
 #include <QVarLengthArray>
+#include <string>
 #include <vector>
 
 class TagText {
 public:
-    // `text` is below 4 GB, and stays so.
-    explicit TagText(QByteArray text = {});
+    // The text is below 4 GB, and stays so.
+    explicit TagText(QByteArrayView newText = {}) { SetText(newText); }
 
-    // As ReplaceTag of generator/transforms. `value` is not Text() itself.
+    // Begins anew with another text.
+    void SetText(QByteArrayView newText);
+
+    // As ReplaceTag of generator/transforms.
     void Replace(const QByteArray& tag, const QByteArray& value);
 
     // Every occurrence of `what` by `value`, without the ".DOCWRITE" spelling and without trimming.
@@ -29,10 +33,7 @@ public:
     // Whether Replace would find `tag`.
     bool MayHold(const QByteArray& tag) const;
 
-    const QByteArray& Text() const { return text; }
-
-    // The text, without keeping it.
-    QByteArray Take();
+    QByteArray Text() const { return {text.data(), qsizetype(text.size())}; }
 
 private:
     using Places = QVarLengthArray<quint32, 64>;
@@ -40,10 +41,11 @@ private:
     Places FindAll(const QByteArray& needle) const;
     void AppendMarkedPlaces(const QByteArray& needle, Places& places) const;
     void Rewrite(const Places& places, qsizetype length, const QByteArray& value);
-    void ShiftMarks(const Places& places, qsizetype length, const QByteArray& value);
-    void ReadKeys(std::size_t first);
+    void RewriteText(const Places& places, qsizetype length, const QByteArray& value);
+    void RewriteMarks(const Places& places, qsizetype length, const QByteArray& value);
+    void ReadKeys(std::size_t mark, qint64 end);
 
-    QByteArray text;
+    std::string text;
     std::vector<quint32> marks; // places of all percent signs, ascending
     std::vector<quint32> keys;  // four bytes of the text near each, see the source
 };

@@ -18,7 +18,7 @@ template <typename Text> Text TrimBlanksOf(const Text& text) {
     while (to > from && text[to - 1] == ' ') {
         --to;
     }
-    return text.mid(from, to - from);
+    return to - from == text.size() ? text : text.mid(from, to - from);
 }
 
 } // namespace

@@ -78,6 +78,6 @@ void BuildZonePages(SiteSnapshot& snapshot) {
         page.Replace("%%SALEZONE%%"_ba, ToAnsi(zones[place].SaleZone));
         page.Replace("%%TIPVIV%%"_ba, ToAnsi(zones[place].TipViv));
         AddOutputFile(
-            {ZonePageName(zones[place]), zones[place].Lang, {}, false, TextToBytes(page.Take())});
+            {ZonePageName(zones[place]), zones[place].Lang, {}, false, TextToBytes(page.Text())});
     }
 }

@@ -18,14 +18,19 @@ public:
     void Add(const quint8* data, quint32 size) {
         while (size > 0) {
             const quint32 part = std::min(size, kBlock - position);
-            std::memcpy(buffer.data() + position, data, part);
-            position += part;
+            // Only the last whole block has to be left in the buffer.
+            if (part == kBlock && size >= 2 * kBlock) {
+                MD5Transform(context.state, data);
+            } else {
+                std::memcpy(buffer.data() + position, data, part);
+                position += part;
+                if (position == kBlock) {
+                    MD5Transform(context.state, buffer.data());
+                    position = 0;
+                }
+            }
             data += part;
             size -= part;
-            if (position == kBlock) {
-                MD5Transform(context.state, buffer.data());
-                position = 0;
-            }
         }
     }
 
