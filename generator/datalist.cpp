@@ -54,7 +54,7 @@ public:
     // Without `everything` only arrays whose tags `sectionText` holds are filled.
     ListCollector(SiteSnapshot& sets, const TagText& sectionText, bool everything)
         : snapshot(sets), sources(sets), reader(sets[kSnapProducts]), section(sectionText),
-          all(everything) {
+          all(everything), wantsFields(WantsFields()) {
         lists.fileKeys.resize(WebLangs.size());
     }
 
@@ -66,8 +66,10 @@ public:
             separator = place < count ? ',' : ' ';
             const SiteProduct row = reader.Read();
             AddProduct(row);
-            LoadProductFields(sources, row.ProductId, WebLangs.first(), kListMarker, fields);
-            AddFields();
+            if (wantsFields) {
+                LoadProductFields(sources, row.ProductId, WebLangs.first(), kListMarker, fields);
+                AddFields();
+            }
             LoadLangFields(sources, row.ProductId, u"Products"_s, WebLangs, texts);
             for (qsizetype lang = 0; lang < WebLangs.size(); ++lang) {
                 AddTexts(row.ProductId, lang);
@@ -78,6 +80,13 @@ public:
 
 private:
     bool Wants(const QByteArray& tag) const { return all || section.MayHold(tag); }
+
+    // Whether any field has a tag: their keys are numbers.
+    bool WantsFields() const {
+        const QByteArrayView starts = "-0123456789";
+        return std::any_of(starts.begin(), starts.end(),
+                           [this](char start) { return Wants("%%LIST" + QByteArray(1, start)); });
+    }
 
     // Finds or makes the column of a key. Products mostly have the same fields in the same order,
     // so that the search begins at the place where the key is expected.
@@ -163,6 +172,7 @@ private:
     SiteProductReader reader;
     const TagText& section;
     bool all;
+    bool wantsFields;
     DataLists lists;
     FieldList fields;             // of the product at hand
     std::vector<FieldList> texts; // the same, in the order of WebLangs

@@ -150,12 +150,11 @@ void TakeText(const FieldSources& sources, const FieldSources::TextTable& table,
     }
 }
 
-// Narrows the value only when the text can hold the tag at all.
 void ReplaceItem(TagText& text, const FieldItem& item, EmptyShows empty) {
-    if (text.MayHold(item.Tag)) {
+    text.ReplaceBy(item.Tag, [&] {
         const bool dash = item.Value.isEmpty() && empty == EmptyShows::Dash;
-        text.Replace(item.Tag, dash ? QByteArray("-") : ToAnsi(item.Value));
-    }
+        return dash ? QByteArray("-") : ToAnsi(item.Value);
+    });
 }
 
 } // namespace

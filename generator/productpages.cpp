@@ -54,15 +54,15 @@ public:
             storedUpdate = StoredDateText(*lastWebUpdate);
         }
     }
-    bool Changed(const SiteProduct& row) const {
+    bool Changed(const QString& lastUpdateText) const {
         if (LastWebUpdate.isEmpty()) {
             return true;
         }
         // Most rows have not changed, and reading a date takes its time.
-        if (lastWebUpdate && LooksStored(row.LastUpdate) && row.LastUpdate <= storedUpdate) {
+        if (lastWebUpdate && LooksStored(lastUpdateText) && lastUpdateText <= storedUpdate) {
             return false;
         }
-        const std::optional<QDateTime> lastUpdate = ReadDate(row.LastUpdate);
+        const std::optional<QDateTime> lastUpdate = ReadDate(lastUpdateText);
         return lastUpdate && (!lastWebUpdate || *lastUpdate > *lastWebUpdate);
     }
 
@@ -98,9 +98,8 @@ void BuildPage(PagePass& pass, const SiteProduct& row, qsizetype place) {
     const QByteArray block =
         BuildPictureBlock(pass.frames, row.ProductId, lang, pass.sources, pictures);
     body.Replace(pass.frames.TagName, block);
-    if (body.MayHold("%%MAINPICTUREID%%"_ba)) {
-        body.Replace("%%MAINPICTUREID%%"_ba, ToAnsi(MainPictureId(row.ProductId, pictures)));
-    }
+    body.ReplaceBy("%%MAINPICTUREID%%"_ba,
+                   [&] { return ToAnsi(MainPictureId(row.ProductId, pictures)); });
     AddOutputFile({name, lang, {}, false, TextToBytes(body.Text())});
     if (lang == UICurrentLang) {
         pass.pageName = TrimBlanks(name.replace(u"%LID%"_s, lang));
@@ -140,9 +139,8 @@ QString BuildProductPages(const QString& productId, int layoutMarker, bool chang
     const int count = products.RecordCount();
     for (int place = 1; products.HasRow() && !AbortPublish; ++place, products.MoveNext()) {
         SetProgress(place, count, 0, 0);
-        const SiteProduct row = reader.Read();
-        if (all || changes.Changed(row)) {
-            BuildPages(pass, row);
+        if (all || changes.Changed(reader.LastUpdate())) {
+            BuildPages(pass, reader.Read());
         }
     }
     products.SetFilter({});

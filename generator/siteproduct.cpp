@@ -12,9 +12,8 @@ QString WholePrice(double amount) {
 }
 
 void ReplacePrice(TagText& text, const QByteArray& tag, double amount, QString (*format)(double)) {
-    if (text.MayHold(tag)) {
-        text.Replace(tag, amount != 0 ? ToAnsi(format(amount)) : QByteArray("%%ACONSULTAR%%"));
-    }
+    text.ReplaceBy(
+        tag, [&] { return amount != 0 ? ToAnsi(format(amount)) : QByteArray("%%ACONSULTAR%%"); });
 }
 
 } // namespace
@@ -31,8 +30,11 @@ SiteProduct SiteProductReader::Read() const {
     row.PriceAmount = CellNumber(products.Value(price));
     row.PriceCurrency = products.Text(currency);
     row.SaleZone = products.Text(zone);
-    row.LastUpdate = products.Text(update);
     return row;
+}
+
+QString SiteProductReader::LastUpdate() const {
+    return products.Text(update);
 }
 
 QString SiteProductReader::PriceText() const {
@@ -61,6 +63,7 @@ QByteArray ExpandListRow(const TagText& middle, const SiteProduct& row, const QS
     LoadProductFields(sources, row.ProductId, lang, 0, list);
     ReplaceFields(text, list, EmptyShows::Nothing);
     ReplaceProductTexts(text, LoadLangFields(sources, row.ProductId, u"Products"_s, lang));
-    text.Replace("%%MAINPICTUREID%%", ToAnsi(MainPictureId(row.ProductId, pictures)));
+    text.ReplaceBy("%%MAINPICTUREID%%",
+                   [&] { return ToAnsi(MainPictureId(row.ProductId, pictures)); });
     return text.Text();
 }

@@ -13,7 +13,6 @@ struct SiteProduct {
     double PriceAmount = 0; // Null counts as 0
     QString PriceCurrency;
     QString SaleZone;
-    QString LastUpdate; // ISO 8601 text
 };
 
 // Reads the current row of the products, columns looked up once.
@@ -21,7 +20,8 @@ class SiteProductReader {
 public:
     explicit SiteProductReader(const Recordset& products);
     SiteProduct Read() const;
-    QString PriceText() const; // the amount in plain decimal with "."; Null is empty
+    QString LastUpdate() const; // ISO 8601 text
+    QString PriceText() const;  // the amount in plain decimal with "."; Null is empty
 
 private:
     const Recordset& products;

@@ -1,7 +1,5 @@
 #include "generator/tagtext.h"
 
-#include "generator/transforms.h"
-
 #include <QtEndian>
 #include <algorithm>
 #include <cstring>
@@ -78,9 +76,7 @@ void TagText::SetText(QByteArrayView newText) {
     ReadKeys(0, newText.size());
 }
 
-void TagText::Replace(const QByteArray& tag, const QByteArray& value) {
-    const QByteArray name = TrimBlanks(tag);
-    const Places places = FindAll(name);
+void TagText::ReplaceAt(const Places& places, const QByteArray& name, const QByteArray& value) {
     const bool scripted = std::any_of(places.begin(), places.end(), [&](quint32 place) {
         return HasAt(text, place + name.size(), kDocWriteMark);
     });

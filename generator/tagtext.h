@@ -8,6 +8,8 @@
 // assign it to the same other one for each product: that takes no new memory.
 #pragma once
 
+#include "generator/transforms.h"
+
 #include <QByteArray>
 #include <QVarLengthArray>
 #include <string>
@@ -22,7 +24,18 @@ public:
     void SetText(QByteArrayView newText);
 
     // As ReplaceTag of generator/transforms.
-    void Replace(const QByteArray& tag, const QByteArray& value);
+    void Replace(const QByteArray& tag, const QByteArray& value) {
+        ReplaceBy(tag, [&value] { return value; });
+    }
+
+    // The same with a value that is only made for a text that holds the tag.
+    template <typename MakeValue> void ReplaceBy(const QByteArray& tag, MakeValue makeValue) {
+        const QByteArray name = TrimBlanks(tag);
+        const Places places = FindAll(name);
+        if (!places.isEmpty()) {
+            ReplaceAt(places, name, makeValue());
+        }
+    }
 
     // Every occurrence of `what` by `value`, without the ".DOCWRITE" spelling and without trimming.
     // An empty `what` changes nothing.
@@ -40,6 +53,7 @@ private:
 
     Places FindAll(const QByteArray& needle) const;
     void AppendMarkedPlaces(const QByteArray& needle, Places& places) const;
+    void ReplaceAt(const Places& places, const QByteArray& name, const QByteArray& value);
     void Rewrite(const Places& places, qsizetype length, const QByteArray& value);
     void RewriteText(const Places& places, qsizetype length, const QByteArray& value);
     void RewriteMarks(const Places& places, qsizetype length, const QByteArray& value);

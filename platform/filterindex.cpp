@@ -2,9 +2,7 @@
 
 #include "platform/storeerror.h"
 
-#include <array>
 #include <bit>
-#include <charconv>
 
 namespace {
 
@@ -130,29 +128,6 @@ bool EqualFolded(QStringView left, QStringView right) {
     return true;
 }
 
-// The text of a cell without making one for the usual kinds.
-class KeyText {
-public:
-    QStringView Of(const Cell& cell) {
-        if (const auto* text = std::get_if<QString>(&cell)) {
-            return *text;
-        }
-        if (const auto* whole = std::get_if<qint64>(&cell)) {
-            std::array<char, 24> narrow = {};
-            const auto end = std::to_chars(narrow.data(), narrow.data() + narrow.size(), *whole);
-            const auto length = end.ptr - narrow.data();
-            std::copy(narrow.data(), end.ptr, digits.begin());
-            return QStringView(digits.data(), length);
-        }
-        decimal = CellText(cell);
-        return decimal;
-    }
-
-private:
-    std::array<char16_t, 24> digits = {};
-    QString decimal;
-};
-
 constexpr quint64 kHashStart = 0xCBF29CE484222325;  // FNV-1a, 64 bits
 constexpr quint64 kHashFactor = 0x00000100000001B3; // (http://www.isthe.com/chongo/tech/comp/fnv)
 
@@ -204,7 +179,7 @@ FilterIndex::FilterIndex(const ResultSet& result, std::span<const int> rows,
                          std::vector<int> keyColumns)
     : columns(std::move(keyColumns)) {
     places.assign(std::bit_ceil(rows.size() * 2 + 1), kNoGroup);
-    std::vector<KeyText> keys(columns.size());
+    std::vector<QString> keys(columns.size());
     std::vector<QStringView> texts(columns.size());
     std::vector<int> keyedRows;
     std::vector<int> groupOfRow;
@@ -212,9 +187,8 @@ FilterIndex::FilterIndex(const ResultSet& result, std::span<const int> rows,
     for (const int row : rows) {
         bool hasNull = false;
         for (size_t key = 0; key < columns.size(); ++key) {
-            const Cell& cell = result.rows.Row(row)[columns[key]];
-            hasNull = hasNull || IsNull(cell);
-            texts[key] = keys[key].Of(cell);
+            hasNull = !result.rows.ReadText(row, columns[key], keys[key]) || hasNull;
+            texts[key] = keys[key];
         }
         if (hasNull) {
             continue;
@@ -258,14 +232,14 @@ std::span<const int> FilterIndex::Find(const ResultSet& result,
 // `place` is left at the group's place in the hash table, or at the free one where it would go.
 int FilterIndex::FindGroup(const ResultSet& result, std::span<const QStringView> texts,
                            quint64 hash, size_t& place) const {
-    KeyText key;
+    QString key;
     for (place = PlaceOf(hash, places.size()); places[place] != kNoGroup;
          place = (place + 1) & (places.size() - 1)) {
         const int group = places[place];
         bool equal = hashes[group] == hash;
-        const Cell* row = result.rows.Row(firstRows[group]);
         for (size_t column = 0; equal && column < columns.size(); ++column) {
-            equal = EqualFolded(key.Of(row[columns[column]]), texts[column]);
+            result.rows.ReadText(firstRows[group], columns[column], key);
+            equal = EqualFolded(key, texts[column]);
         }
         if (equal) {
             return group;

@@ -122,20 +122,20 @@ struct Recordset::Data {
             return;
         }
         auto lock = std::make_unique<RowLock>(connection->Path(), result.table, result.rowIds[row]);
-        std::vector<Cell> present = ReadRow(*connection, result, result.rowIds[row]);
+        const std::vector<Cell> present = ReadRow(*connection, result, result.rowIds[row]);
         if (present.empty()) {
             throw StoreError(kErrNoCurrentRow,
                              QStringLiteral("Otro usuario ha eliminado el registro"));
         }
-        TakeOver(row, std::move(present));
+        TakeOver(row, present);
         locks[row] = std::move(lock);
     }
 
     // Computed columns keep what the statement gave.
-    void TakeOver(int row, std::vector<Cell>&& cells) {
+    void TakeOver(int row, const std::vector<Cell>& cells) {
         for (size_t column = 0; column < cells.size(); ++column) {
             if (!result.columns[column].origin.isEmpty()) {
-                result.rows.Row(row)[column] = std::move(cells[column]);
+                result.rows.Set(row, int(column), cells[column]);
             }
         }
         LeaveIndexes();
@@ -147,8 +147,7 @@ struct Recordset::Data {
         if (known != pending.end()) {
             return known->second;
         }
-        const Cell* cells = result.rows.Row(row);
-        return pending[row] = {PendingKind::Edited, {cells, cells + result.columns.size()}};
+        return pending[row] = {PendingKind::Edited, result.rows.Row(row)};
     }
 
     const FilterIndex& IndexOver(const std::vector<int>& columns) {
@@ -214,7 +213,9 @@ Recordset Recordset::Clone() const {
     ResultSet rows = d->result;
     for (const auto& [row, change] : d->pending) {
         if (change.kind == PendingKind::Edited || change.kind == PendingKind::Deleted) {
-            std::copy(change.original.begin(), change.original.end(), rows.rows.Row(row));
+            for (int column = 0; column < rows.rows.ColumnCount(); ++column) {
+                rows.rows.Set(row, column, change.original[column]);
+            }
         }
     }
     clone.d->Show(std::move(rows));
@@ -292,13 +293,10 @@ void Recordset::SetFilter(const QString& filter) {
 void Recordset::AddNew() {
     d->RequireUpdatable();
     const int row = d->result.rows.Count();
-    const std::vector<Cell> empty(d->result.columns.size());
     d->LeaveIndexes();
-    for (const Cell& cell : empty) {
-        d->result.rows.Append(cell);
-    }
+    d->result.rows.AddRow();
     d->result.rowIds.push_back(0); // known after Update
-    d->pending[row] = {PendingKind::Added, empty};
+    d->pending[row] = {PendingKind::Added, d->result.rows.Row(row)};
     d->live.push_back(row);
     if (d->filtered) {
         d->ownView.push_back(row);
@@ -336,7 +334,7 @@ void Recordset::Update() {
          WritePendingRows(*d->connection, d->result, d->pending, d->pessimistic)) {
         d->result.rowIds[written.row] = written.rowId;
         if (!written.cells.empty()) {
-            d->TakeOver(written.row, std::move(written.cells));
+            d->TakeOver(written.row, written.cells);
         }
         if (written.lock != nullptr) {
             d->locks[written.row] = std::move(written.lock);
@@ -370,12 +368,12 @@ const QString& Recordset::ColumnName(int column) const {
     return d->result.columns.at(column).name;
 }
 
-const Cell& Recordset::Value(int column) const {
+Cell Recordset::Value(int column) const {
     d->RequireOpen();
     if (column < 0 || column >= ColumnCount()) {
         throw StoreError(kErrNoColumn, QStringLiteral("No existe la columna %1").arg(column));
     }
-    return d->result.rows.Row(d->CurrentRow())[column];
+    return d->result.rows.At(d->CurrentRow(), column);
 }
 
 void Recordset::Set(QStringView name, const Cell& value) {
@@ -389,10 +387,10 @@ void Recordset::Set(QStringView name, const Cell& value) {
     const int row = d->CurrentRow();
     d->LockRow(row);
     const Cell kept = ConvertCell(value, target.affinity);
-    if (d->result.rows.Row(row)[column] == kept) {
+    if (d->result.rows.At(row, column) == kept) {
         return;
     }
     d->PendingOf(row);
     d->LeaveIndexes();
-    d->result.rows.Row(row)[column] = kept;
+    d->result.rows.Set(row, column, kept);
 }

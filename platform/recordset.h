@@ -82,10 +82,9 @@ public:
     int Column(QStringView name) const; // 0-based; kErrNoColumn if absent
     const QString& ColumnName(int column) const;
 
-    // Fields of the current row (kErrNoCurrentRow without one). The reference lives until the next
-    // change of the cursor.
-    const Cell& Value(int column) const;
-    const Cell& Value(QStringView name) const { return Value(Column(name)); }
+    // Fields of the current row (kErrNoCurrentRow without one).
+    Cell Value(int column) const;
+    Cell Value(QStringView name) const { return Value(Column(name)); }
     bool IsNull(QStringView name) const { return ::IsNull(Value(name)); }
     QString Text(QStringView name) const { return CellText(Value(name)); }
     double Number(QStringView name) const { return CellNumber(Value(name)); }

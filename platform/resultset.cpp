@@ -4,8 +4,6 @@
 #include "platform/statement.h"
 #include "platform/storeengine.h"
 
-#include <array>
-#include <cstring>
 #include <sqlite3.h>
 
 namespace {
@@ -37,66 +35,29 @@ std::vector<ResultColumn> DescribeColumns(sqlite3_stmt* statement, int count) {
     return columns;
 }
 
-// Short texts that come again in the same column (codes, table names, zones) share one copy, which
-// saves memory and time in a result of many rows. A column where they don't is given up soon.
-class SharedTexts {
-public:
-    QString Take(const char* text, int size) {
-        if (++taken <= kFewTexts || size > kLongest || missed > found + kTries) {
-            return QString::fromUtf8(text, size);
-        }
-        places.resize(kPlaces);
-        Place& place = places[PlaceOf(text, size)];
-        if (place.size == size && std::memcmp(place.bytes.data(), text, size) == 0) {
-            ++found;
-            return place.shared;
-        }
-        ++missed;
-        place.size = size;
-        std::memcpy(place.bytes.data(), text, size);
-        place.shared = QString::fromUtf8(text, size);
-        return place.shared;
+void ReadField(Statement& statement, int column, CellRows& rows) {
+    const int row = rows.Count() - 1;
+    sqlite3_stmt* handle = statement.Handle();
+    switch (sqlite3_column_type(handle, column)) {
+    case SQLITE_NULL:
+        break;
+    case SQLITE_TEXT: {
+        const uchar* text = sqlite3_column_text(handle, column);
+        rows.SetText(row, column, reinterpret_cast<const char*>(text),
+                     sqlite3_column_bytes(handle, column));
+        break;
     }
-
-private:
-    static constexpr int kFewTexts = 32; // no sharing among so few
-    static constexpr int kLongest = 24;  // bytes
-    static constexpr int kTries = 100;
-    static constexpr size_t kPlaces = 64;
-
-    struct Place {
-        int size = -1; // none kept
-        std::array<char, kLongest> bytes = {};
-        QString shared;
-    };
-
-    static size_t PlaceOf(const char* text, int size) {
-        quint32 hash = 0;
-        for (int byte = 0; byte < size; ++byte) {
-            hash = hash * 31 + static_cast<uchar>(text[byte]);
-        }
-        return hash % kPlaces;
+    default:
+        rows.Set(row, column, statement.Column(column));
     }
-
-    std::vector<Place> places;
-    int taken = 0;
-    int found = 0;
-    int missed = 0;
-};
+}
 
 void ReadRows(Statement& statement, ResultSet& result, bool hasRowId) {
-    const int columns = static_cast<int>(result.columns.size());
-    std::vector<SharedTexts> texts(result.columns.size());
+    const int columns = result.rows.ColumnCount();
     while (statement.Step()) {
+        result.rows.AddRow();
         for (int column = 0; column < columns; ++column) {
-            sqlite3_stmt* row = statement.Handle();
-            if (sqlite3_column_type(row, column) == SQLITE_TEXT) {
-                const uchar* text = sqlite3_column_text(row, column);
-                result.rows.Append(texts[column].Take(reinterpret_cast<const char*>(text),
-                                                      sqlite3_column_bytes(row, column)));
-            } else {
-                result.rows.Append(statement.Column(column));
-            }
+            ReadField(statement, column, result.rows);
         }
         if (hasRowId) {
             result.rowIds.push_back(sqlite3_column_int64(statement.Handle(), columns));

@@ -39,7 +39,7 @@ private:
     std::vector<int> ChangedColumns(int row, const std::vector<Cell>& original) const {
         std::vector<int> changed;
         for (int column = 0; column < static_cast<int>(original.size()); ++column) {
-            if (result.rows.Row(row)[column] != original[column]) {
+            if (result.rows.At(row, column) != original[column]) {
                 changed.push_back(column);
             }
         }
@@ -81,7 +81,7 @@ private:
         Statement& run = Prepared(sql + " WHERE _rowid_=? RETURNING _rowid_");
         int place = 0;
         for (const int column : changed) {
-            run.Bind(++place, result.rows.Row(row)[column]);
+            run.Bind(++place, result.rows.At(row, column));
         }
         run.Bind(++place, result.rowIds[row]);
         if (!run.Step()) {
@@ -106,7 +106,7 @@ private:
         Statement& run = Prepared("INSERT INTO " + table + values + " RETURNING _rowid_");
         int place = 0;
         for (const int column : changed) {
-            run.Bind(++place, result.rows.Row(row)[column]);
+            run.Bind(++place, result.rows.At(row, column));
         }
         run.Step();
         WrittenRow added{row, CellInteger(run.Column(0)), {}, nullptr};
