@@ -160,7 +160,9 @@ struct FinishPass {
 
 void FinishText(OutputFile& file, const QString& upperName, FinishPass& pass) {
     TagText& text = pass.text;
-    text.SetText(std::exchange(file.Data, {}));
+    text.SetText(file.Data);
+    file.Data.clear();
+    file.Draft.reset();
     if (!upperName.endsWith(u".CSS")) {
         text.Prepend(upperName == u"INDEX.HTML" ? pass.homeComment : pass.comment);
     }

@@ -62,6 +62,15 @@ bool SaveOutput(const QDir& folder, bool besideStore, const OutputFile& output) 
            WriteOutput(folder.filePath(name), output.Data);
 }
 
+constexpr qsizetype kDraftBlock = 1024 * 1024; // bytes
+
+// The block that drafts are being added to.
+struct DraftBlock {
+    std::shared_ptr<char[]> bytes;
+    qsizetype used = kDraftBlock;
+};
+DraftBlock drafts;
+
 } // namespace
 
 std::vector<OutputFile> OutputFiles;
@@ -76,8 +85,24 @@ void AddOutputFile(OutputFile file) {
     }
 }
 
+void AddDraft(const QString& name, const QString& lang, const QByteArray& data) {
+    const qsizetype size = data.size();
+    if (size > kDraftBlock) {
+        AddOutputFile({name, lang, {}, false, data});
+        return;
+    }
+    if (drafts.used + size > kDraftBlock) {
+        drafts = {std::make_shared_for_overwrite<char[]>(kDraftBlock), 0};
+    }
+    char* const place = drafts.bytes.get() + drafts.used;
+    std::copy(data.cbegin(), data.cend(), place);
+    drafts.used += size;
+    AddOutputFile({name, lang, {}, false, QByteArray::fromRawData(place, size), drafts.bytes});
+}
+
 void ClearOutputFiles() {
     OutputFiles.clear();
+    drafts = {};
 }
 
 bool IsPlainFileName(const QString& name) {

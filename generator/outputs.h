@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <memory>
 #include <vector>
 
 struct OutputFile {
@@ -13,6 +14,7 @@ struct OutputFile {
     QByteArray Md5;       // 32 lower-case hexadecimal digits, set by the finishing pass
     bool SendNow = false; // set by the FTP transport: differs from what was last sent
     QByteArray Data;
+    std::shared_ptr<char[]> Draft = nullptr; // keeps the bytes of an unfinished page alive
 };
 
 // Files of the present generation in the order in which they were made; emptied at each one. Two
@@ -21,6 +23,11 @@ extern std::vector<OutputFile> OutputFiles;
 
 // Yields to the event loop, then appends.
 void AddOutputFile(OutputFile file);
+
+// The same for a page that the finishing pass will replace. Its bytes lie in one block with those
+// of its neighbours, which goes with the last of them: single ones would leave holes all over the
+// memory, just too small for the finished pages.
+void AddDraft(const QString& name, const QString& lang, const QByteArray& data);
 
 // Forgets all files.
 void ClearOutputFiles();

@@ -100,7 +100,7 @@ void BuildPage(PagePass& pass, const SiteProduct& row, qsizetype place) {
     body.Replace(pass.frames.TagName, block);
     body.ReplaceBy("%%MAINPICTUREID%%"_ba,
                    [&] { return ToAnsi(MainPictureId(row.ProductId, pictures)); });
-    AddOutputFile({name, lang, {}, false, TextToBytes(body.Text())});
+    AddDraft(name, lang, TextToBytes(body.Text()));
     if (lang == UICurrentLang) {
         pass.pageName = TrimBlanks(name.replace(u"%LID%"_s, lang));
     }
