@@ -33,7 +33,9 @@
   }
   const columns = {};
   for (const name of Object.keys(data)) columns[name] = column(name);
-  const number = (text) => parseFloat(String(text || '').replace(',', '.')) || 0;
+  // Numbers as people type them, "1.200" or "85,5": a point or comma before three digits groups them.
+  const number = (text) => parseFloat(
+    String(text || '').replace(/[.,\s](?=\d{3}(\D|$))/g, '').replace(',', '.')) || 0;
 
   const homes = columns.id.map((id, i) => {
     const at = (name) => columns[name][i] || '';
@@ -99,10 +101,13 @@
 
   function card(home) {
     const sizes = [
-      [home.size, 'm\u00b2'], [home.rooms, "%%W.BEDROOMS%%"], [home.baths, "%%W.BATHS%%"]
+      [home.size, 'm\u00b2'],
+      [home.rooms, home.rooms === 1 ? "%%W.BEDROOM%%" : "%%W.BEDROOMS%%"],
+      [home.baths, home.baths === 1 ? "%%W.BATH%%" : "%%W.BATHS%%"]
     ].filter(([value]) => value > 0)
       .map(([value, unit]) => element('span', {}, `${value.toLocaleString(language)} ${unit}`));
     const type = home.t === '' ? '' : types.get(home.t) || '';
+    const unit = type === "%%W.RENT%%" ? " \u20ac%%W.PERMONTH%%" : ' \u20ac';
     return element('li', { class: 'card' }, element('a', { href: `inm${home.id}%LID%.html` },
       element('img', {
         src: `s${home.picture}.jpg`,
@@ -112,7 +117,7 @@
       element('span', { class: 'place' }, [type, home.zone].filter(Boolean).join(', ')),
       element('h3', {}, home.title),
       element('p', { class: 'price' },
-        home.price ? money.format(home.price) + ' \u20ac' : element('span', { class: 'ask' }, "%%W.ONREQUEST%%")),
+        home.price ? money.format(home.price) + unit : element('span', { class: 'ask' }, "%%W.ONREQUEST%%")),
       element('p', { class: 'sizes' }, ...sizes)));
   }
 
