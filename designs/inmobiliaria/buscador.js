@@ -97,6 +97,7 @@
   const money = new Intl.NumberFormat(language, {
     maximumFractionDigits: 0, useGrouping: 'always'
   });
+  const decimal = new Intl.NumberFormat(language, { useGrouping: 'always' });
   const types = new Map([...form.elements.t.options].map((option) => [option.value, option.text]));
 
   function card(home) {
@@ -105,7 +106,7 @@
       [home.rooms, home.rooms === 1 ? "%%W.BEDROOM%%" : "%%W.BEDROOMS%%"],
       [home.baths, home.baths === 1 ? "%%W.BATH%%" : "%%W.BATHS%%"]
     ].filter(([value]) => value > 0)
-      .map(([value, unit]) => element('span', {}, `${value.toLocaleString(language)} ${unit}`));
+      .map(([value, unit]) => element('span', {}, `${decimal.format(value)} ${unit}`));
     const type = home.t === '' ? '' : types.get(home.t) || '';
     const unit = type === "%%W.RENT%%" ? " \u20ac%%W.PERMONTH%%" : ' \u20ac';
     return element('li', { class: 'card' }, element('a', { href: `inm${home.id}%LID%.html` },
