@@ -1,6 +1,7 @@
 #include "core/settings.h"
 #include "forms/mainform.h"
 #include "generator/generate.h"
+#include "platform/ansi.h"
 #include "tests/designs/sitechecks.h"
 #include "tests/support/catalogue.h"
 
@@ -128,6 +129,48 @@ TEST(Designs, SheetOfAProductShowsItsValuesWithoutGaps) {
         EXPECT_TRUE(text.contains("<tr><td>Gres</td><th scope=\"row\">Material</th></tr>"));
         EXPECT_TRUE(text.contains("<tr><td>Verde</td><th scope=\"row\">Color</th></tr>"));
         EXPECT_EQ(FindTagsLeft(QFileInfo(page).dir()).join('\n').toStdString(), "");
+        EXPECT_EQ(FindMalformedPages(QFileInfo(page).dir()).join('\n').toStdString(), "");
+    }
+}
+
+TEST(Designs, HomesOfTheAgencyShowRentsByTheMonthAndSizesInMetres) {
+    const MainForm form;
+    TestCatalogue catalogue("def; 0; T; ESSuperficie#ENFloor area\n"
+                            "def; 1; O; ESTipo#ENType; ESPisos#ENFlats|ESAlquiler#ENTo let\n"
+                            "product; 10001; T-1; 850; 0; Oliva-\"Racons\"; 2024-01-01T00:00:00\n"
+                            "field; 10001; 0; 1.200\n"
+                            "field; 10001; 1; 1\n"
+                            "product; 10002; T-2; 85000; 0; L'Alfàs; 2024-01-01T00:00:00\n"
+                            "field; 10002; 0; 90\n"
+                            "field; 10002; 1; 0\n"
+                            "product; 10003; T-3; 700; 0; L'Alfàs; 2024-01-01T00:00:00\n"
+                            "field; 10003; 0;\n"
+                            "field; 10003; 1; 1\n"
+                            "textdef; Products; 0; ShortDesc\n"
+                            "textdef; Products; 1; LongDesc");
+    SetUserLangs("ES|EN", "ES");
+    SetUICurrentLang("ES");
+    QTemporaryDir packed;
+    const QString design = Pack("inmobiliaria", packed);
+    const struct {
+        const char* page;
+        const char* rent; // behind the price
+        const char* size; // "" for a page that shows none
+    } cases[] = {
+        {"PRODUCT|10001", "</span><span class=\"rent\">/mes</span></p>", "1.200</span> <span"},
+        {"PRODUCT|10002", "</span><span hidden>Pisos</span></p>", "90</span> <span"},
+        {"LAYOUT|10001", "</span> €<span hidden>1.200</span><span class=\"rent\">/mes</span>",
+         "<td>1.200&nbsp;m²</td>"},
+        {"LAYOUT|10003", "</span> €<span class=\"rent\">/mes</span>", ""},
+    };
+    for (const auto& [request, rent, size] : cases) {
+        SCOPED_TRACE(request);
+        const QString page = GeneratePreviewPage(request, design, catalogue.Snapshot());
+        QFile file(page);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << page.toStdString();
+        const QString text = FromAnsi(file.readAll());
+        EXPECT_TRUE(text.contains(rent)) << text.toStdString();
+        EXPECT_TRUE(text.contains(size)) << text.toStdString();
         EXPECT_EQ(FindMalformedPages(QFileInfo(page).dir()).join('\n').toStdString(), "");
     }
 }
