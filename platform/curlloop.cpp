@@ -1,5 +1,6 @@
 #include "platform/curlloop.h"
 
+#include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <mutex>
@@ -8,6 +9,7 @@ namespace {
 
 constexpr int kAgainMilliseconds = 10;
 constexpr int kPulseMilliseconds = 5;
+constexpr int kHeldUpMilliseconds = 250;
 
 void InitialiseOnce() {
     static std::once_flag flag;
@@ -32,6 +34,10 @@ CurlLoop::~CurlLoop() {
         curl_multi_remove_handle(multi, easy);
     }
     curl_multi_cleanup(multi);
+}
+
+bool CurlLoop::HoldsUp() const {
+    return busy.isValid() && busy.hasExpired(kHeldUpMilliseconds);
 }
 
 void CurlLoop::Start(CURL* easy, std::function<void(CURLcode)> finished) {
@@ -97,13 +103,24 @@ std::unique_ptr<QSocketNotifier> CurlLoop::MakeNotifier(curl_socket_t socket, bo
 }
 
 void CurlLoop::Act(curl_socket_t socket, int events) {
+    const std::shared_ptr<void> alive = holder.lock();
+    Perform(socket, events);
+    if (alive.use_count() ==
+        1) { // given up meanwhile; the caller is a part of it, so it goes later
+        QTimer::singleShot(0, qApp, [alive] {});
+    }
+}
+
+void CurlLoop::Perform(curl_socket_t socket, int events) {
     int left = 0;
-    if (curl_multi_socket_action(multi, socket, events, &left) == CURLM_RECURSIVE_API_CALL) {
-        timer->start(
-            kAgainMilliseconds); // events served inside a callback: what was due comes again
+    if (busy.isValid()) { // events served inside a callback: what was due comes again
+        timer->start(kAgainMilliseconds);
         return;
     }
+    busy.start();
+    curl_multi_socket_action(multi, socket, events, &left);
     curl_multi_perform(multi, &left);
+    busy.invalidate();
     CollectFinished();
     // A data connection whose port came with the last reply is left to the next call, and no socket
     // or timer of libcurl's announces it.

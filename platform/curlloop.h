@@ -2,6 +2,7 @@
 // socket notifiers and a timer, so that a transfer costs no waiting and no thread.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <curl/curl.h>
 #include <functional>
@@ -18,11 +19,19 @@ public:
     explicit CurlLoop(QObject* parent = nullptr);
     ~CurlLoop() override;
 
+    // What the loop is part of. While libcurl is on the stack, also because a callback serves
+    // events, the loop keeps the holder alive: whoever gives it up there need not care.
+    void SetHolder(std::weak_ptr<void> newHolder) { holder = std::move(newHolder); }
+
+    // Whether libcurl has been on the stack for longer than a user should notice.
+    bool HoldsUp() const;
+
     // Starts a prepared handle; `finished` is called once from the event loop when it has ended by
     // itself. The handle stays the caller's, who removes it before freeing it.
     void Start(CURL* easy, std::function<void(CURLcode)> finished);
 
     // Takes a handle out, running or not; a transfer under way is abandoned with its connection.
+    // From inside a callback the handle only goes silent: libcurl has it until it is freed.
     void Remove(CURL* easy);
 
 private:
@@ -37,10 +46,13 @@ private:
     void WatchSocket(curl_socket_t socket, int what);
     std::unique_ptr<QSocketNotifier> MakeNotifier(curl_socket_t socket, bool forWriting);
     void Act(curl_socket_t socket, int events);
+    void Perform(curl_socket_t socket, int events);
     void CollectFinished();
 
     CURLM* multi;
     QTimer* timer;
+    std::weak_ptr<void> holder;
+    QElapsedTimer busy; // since libcurl was called; invalid while it isn't
     std::unordered_map<curl_socket_t, Watch> watches;
     std::unordered_map<CURL*, std::function<void(CURLcode)>> running;
 };

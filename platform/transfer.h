@@ -6,9 +6,10 @@
 // it, EPSV and STOR. Names and paths go over the wire in Windows-1252.
 #pragma once
 
+#include "platform/transferstates.h"
+
 #include <QByteArray>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QObject>
 #include <QString>
 #include <memory>
@@ -17,31 +18,8 @@
 // of their own.
 extern int FTPControlPort; // 21 at start
 
-// Numbers of failures that callers tell apart, those of the internet clients that the program grew
-// up with.
-inline constexpr int kErrTransferTimeout = 12002;
-inline constexpr int kErrServerReply = 12003; // the server refused; its text is the ResponseInfo
-inline constexpr int kErrHostNotFound = 12007;
-inline constexpr int kErrLogin = 12014;
-inline constexpr int kErrCannotConnect = 12029;
-inline constexpr int kErrConnectionAborted = 12030;
-inline constexpr int kErrConnectionReset = 12031;
-
-// States that a command reports, as StateChanged.
-enum TransferState {
-    kStateResolving = 1,
-    kStateResolved = 2,
-    kStateConnecting = 3,
-    kStateConnected = 4,
-    kStateRequesting = 5,
-    kStateRequestSent = 6,
-    kStateReceiving = 7,
-    kStateReceived = 8,
-    kStateDisconnecting = 9,
-    kStateDisconnected = 10,
-    kStateError = 11,
-    kStateCompleted = 12
-};
+struct FtpAccount;
+class TransferRequest;
 
 class TransferClient : public QObject {
     Q_OBJECT
@@ -50,18 +28,20 @@ public:
     explicit TransferClient(QObject* parent = nullptr);
     ~TransferClient() override;
 
-    // Take effect on the next command.
+    // Take effect on the next command. Throws std::invalid_argument, and changes nothing, for what
+    // can't be a host or has control characters. For hosts as a user may type them see
+    // ftpaddress.h.
     void SetServer(const QString& host, const QString& user, const QString& password);
     void SetRequestTimeout(
         int seconds); // for a connection, a reply, or a transfer that stands still; 60 at start
 
     // Starts an FTP command and returns at once: CD path, MKDIR path, PUT "local file" "remote
     // name" (into the folder of the last CD), CLOSE. The first one connects. A command while
-    // another is running is refused as a failure.
+    // another is running is refused as a failure, and so is one with control characters.
     void Execute(const QString& command);
 
     // Starts an HTTP request of `method` ("GET") and returns at once; header and body are kept for
-    // GetHeader and GetChunk.
+    // GetHeader and GetChunk. Redirections are followed; an error page is an answer, no failure.
     void Execute(const QString& url, const QString& method);
 
     // The whole document as text, waiting in the event loop; empty after a failure.
@@ -73,39 +53,39 @@ public:
     int ResponseCode() const { return responseCode; }
     const QString& ResponseInfo() const { return responseInfo; }
 
-    // Abandons the running command with its connection, without waiting.
+    // Abandons the running command with its connection, without waiting; no state is reported. It
+    // may be called from a slot of StateChanged, and so may the client's deletion.
     void Cancel();
 
     // Value of a header of the last HTTP response, without regard to case; empty if absent.
     QString GetHeader(const QString& name) const;
 
-    // The next part of the body, at most `size` bytes; empty at its end.
+    // The next part of the body, at most `size` bytes; empty at its end and for no size.
     QByteArray GetChunk(int size);
 
 signals:
     void StateChanged(int state);
 
 private:
-    struct Request;
-
     void StartFTP(const QString& command);
-    void PreparePut(const QString& operands);
+    bool PreparePut(const QString& operands);
     void Start();
+    void StartNow();
     void Finish(int curlCode);
     void Fail(int code, const QString& info);
     void Complete();
-    void DropConnection();
+    void Report(std::initializer_list<int> states);
+    void Renew();
 
-    std::shared_ptr<Request> request; // the libcurl side
-    QString host;
-    QString user;
-    QString password;
-    QString folder; // of the last successful CD
+    std::shared_ptr<TransferRequest> request; // the libcurl side
+    std::unique_ptr<FtpAccount> account;
+    QString folder;    // of the last successful CD
+    QString newFolder; // of a CD under way
     int timeoutSeconds = 60;
     int responseCode = 0;
     QString responseInfo;
     QElapsedTimer lastConnect; // of a session
     bool executing = false;
-    bool closing = false;     // the command under way is CLOSE
-    bool sessionOpen = false; // the control connection stands, as far as is known
+    bool changingFolder = false; // the command under way is CD
+    bool closing = false;        // the command under way is CLOSE
 };

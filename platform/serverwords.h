@@ -1,0 +1,38 @@
+// What a server says beside the data, read line by line: the headers of an HTTP response (RFC 9110)
+// and the replies of an FTP server (RFC 959).
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+class ServerWords {
+public:
+    void Clear();
+
+    // One line, with its end. A status line starts the headers of another response, so that those
+    // of a redirection don't count.
+    void AddLine(const QByteArray& line);
+
+    // Value of a header without regard to case, the first one of that name; empty if absent.
+    QString Header(const QString& name) const;
+
+    // The last complete FTP reply's last line, at most kLongestReply characters; empty if none.
+    const QByteArray& Reply() const { return reply; }
+
+private:
+    void AddHeader(const QByteArray& line);
+
+    QByteArray reply;
+    QHash<QByteArray, QByteArray> headers; // by lower-case name
+    QByteArray lastHeader;                 // its name; empty if a second one of that name
+};
+
+// What a message box can show of a reply.
+inline constexpr int kLongestReply = 400;
+
+// Whether a reply says no: its number is 400 or more.
+bool IsRefusal(const QByteArray& reply);
+
+// The last refusal among the lines of `words`; empty if there is none.
+QByteArray LastRefusal(const QByteArray& words);
