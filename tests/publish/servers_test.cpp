@@ -180,12 +180,28 @@ TEST_P(ServersTest, WhatTheServerRefusesIsToldInItsWords) {
         << boxes.Texts().toStdString();
 }
 
-TEST_P(PliantServersTest, AVisitorWithoutAUserIsAnonymous) {
+// Without a user the log-in is an anonymous one, which Pure-FTPd grants to accounts of the system
+// alone.
+TEST_P(ServersTest, PathsAreTakenFromWhereTheLogInLeadsAlsoAnonymously) {
     Start();
+    host = "localhost";
+    server.MakeFolder("web");
+    const char* const anonymous = GetParam() == ServerKind::PureFTPd ? kServerUser : "";
+    const char* const user = GetParam() == ServerKind::Vsftpd ? "" : kServerUser;
     std::vector<OutputFile> files = {File("a.html", "text")};
-    EXPECT_TRUE(Send("", files, ""));
+    const struct {
+        const char* path;
+        const char* folder;
+        const char* user;
+    } kCases[] = {{"", "", anonymous}, {"web/dos/", "web/dos", user}, {"./tres", "tres", user}};
+    for (const auto& place : kCases) {
+        files[0].Md5 = MD5Bytes(QByteArray("new each time ") + place.path);
+        SetFTP(host, place.path, place.user, kServerPassword);
+        EXPECT_TRUE(ConnectFTP()); // as the button that checks the settings does
+        EXPECT_TRUE(SendFiles(files));
+        EXPECT_EQ(server.Files(place.folder), AsStored(files)) << place.path;
+    }
     EXPECT_EQ(boxes.Texts().toStdString(), "");
-    EXPECT_EQ(server.Files(""), AsStored(files));
 }
 
 TEST_P(PliantServersTest, AServerWithoutExtendedPassiveModeIsAskedForItOnce) {

@@ -59,6 +59,7 @@ Handler.authorizer = authorizer
 Handler.auth_failed_timeout = 0
 Handler.passive_ports = range(int(port) + 1, int(last))
 if extended == "0":
+    Handler.masquerade_address = "10.0.0.9"
     del Handler.proto_cmds["EPSV"]
 logging.basicConfig(filename=log, level=logging.DEBUG, format="%(message)s",
                     encoding="utf8")
@@ -274,7 +275,8 @@ QStringList RealServer::PrepareProFTPD(int port, const ServerChoices& choices) {
         folder.filePath("system.log").toUtf8() + "\nExtendedLog " +
         folder.filePath("commands.log").toUtf8() + " ALL command\n" + "DisplayConnect " +
         Write("welcome", kWelcome).toUtf8() + "\n" + (choices.littleRoom ? kSmallFiles : "") +
-        (choices.extendedPassive ? "" : "<Limit EPSV>\nDenyAll\n</Limit>\n");
+        (choices.extendedPassive ? ""
+                                 : "MasqueradeAddress 10.0.0.9\n<Limit EPSV>\nDenyAll\n</Limit>\n");
     return {CopyProgram("proftpd"), "-n", "-c", Write("server.conf", settings)};
 }
 
@@ -294,7 +296,7 @@ QStringList RealServer::PrepareVsftpd(int port, const ServerChoices& choices) {
         "anon_upload_enable=YES\nanon_mkdir_write_enable=YES\nanon_other_write_enable=YES\n"
         "anon_umask=022\ndelay_failed_login=0\nxferlog_enable=YES\nxferlog_std_format=NO\n"
         "log_ftp_protocol=YES\n" +
-        (choices.extendedPassive ? "" : "cmds_denied=EPSV\n");
+        (choices.extendedPassive ? "" : "cmds_denied=EPSV\npasv_address=10.0.0.9\n");
     return {CopyProgram("vsftpd"), Write("server.conf", settings)};
 }
 

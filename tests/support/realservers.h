@@ -18,8 +18,10 @@ inline constexpr char kServerPassword[] = "cláve ñ@/:%";
 
 struct ServerChoices {
     QByteArray host = "127.0.0.1"; // or "::1"
-    bool extendedPassive = true;   // EPSV is known; Pure-FTPd always knows it
-    bool littleRoom = false;       // 300,000 bytes at the most
+    // EPSV is known, as always by Pure-FTPd. Otherwise the address that PASV names is one that only
+    // the server's own network knows.
+    bool extendedPassive = true;
+    bool littleRoom = false; // 300,000 bytes at the most
 };
 
 class RealServer {
