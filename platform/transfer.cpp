@@ -26,6 +26,10 @@ constexpr char kClose[] = "CLOSE";
 // that for a time-out.
 constexpr char kServiceEnds[] = "421";
 
+// The server took all bytes of a file and then said that it couldn't keep them, as when a disk is
+// full; libcurl takes a cut body of an HTTP response for the same.
+constexpr int kUploadNotConfirmed = CURLE_PARTIAL_FILE;
+
 QString Operand(const QString& command, const char* verb) {
     return command.mid(qsizetype(qstrlen(verb)));
 }
@@ -173,7 +177,7 @@ void TransferClient::Cancel() {
     if (executing) {
         Renew();
         responseCode = kErrConnectionAborted;
-        responseInfo.clear();
+        responseInfo = FailureText(responseCode);
     }
 }
 
@@ -203,7 +207,8 @@ void TransferClient::Finish(int curlCode) {
     const int number = FailureNumber(curlCode);
     if (!request->cutReason.isEmpty()) {
         Fail(kErrServerReply, FromAnsi(request->cutReason));
-    } else if (reply.startsWith(kServiceEnds)) {
+    } else if (reply.startsWith(kServiceEnds) ||
+               (curlCode == kUploadNotConfirmed && IsRefusal(reply))) {
         Fail(kErrServerReply, FromAnsi(reply));
     } else if (IsRefusal(reply) && (number == kErrServerReply || number == kErrLogin)) {
         Fail(number, FromAnsi(reply));

@@ -2,6 +2,7 @@
 
 #include "core/settings.h"
 #include "forms/mainform.h"
+#include "platform/events.h"
 #include "platform/transfer.h"
 #include "publish/abort.h"
 #include "publish/md5.h"
@@ -11,6 +12,7 @@
 #include "tests/support/ftpserver.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
@@ -89,6 +91,16 @@ TEST_F(SendFilesTest, OnlyWhatChangedIsSentAgain) {
     EXPECT_EQ(server.Record().files["/web/b.html"], "changed!");
 }
 
+TEST_F(SendFilesTest, TheSessionEndsWithAGoodBye) {
+    std::vector<OutputFile> files = {File("a.html", "text")};
+    EXPECT_TRUE(SendFiles(files));
+    while (ineFTPSend().StillExecuting()) {
+        WaitForEvents();
+    }
+    EXPECT_EQ(server.Record().Count("QUIT"), 1);
+    EXPECT_EQ(server.Record().sessions, 1);
+}
+
 TEST_F(SendFilesTest, TheLastLevelOfTheFolderIsMade) {
     SetFTP("127.0.0.1", "/web/mi tienda", "", "clave");
     std::vector<OutputFile> files = {File("a.html", "text")};
@@ -112,17 +124,19 @@ TEST_F(SendFilesTest, AFailedConnectionIsToldAndNothingIsRecorded) {
     const struct {
         const char* path;
         QHash<QByteArray, QByteArray> replies;
-        const char* box;
+        QString told;
     } kCases[] = {
-        {"/no/such/levels",
-         {},
-         "Error al conectar con el servidor FTP '127.0.0.1'. 550 No such folder"},
+        {"/no/such/levels", {}, "550 No such folder"},
+        {"/web", {{"", "421-Full\r\n421 Too many"}}, "421 Too many"},
+        {"/web", {{"USER", "530 Not you"}}, "530 Not you"},
+        {"/web", {{"PASS", "530 Who?"}}, "530 Who?"},
+        {"/web", {{"PASS", "421 Later"}}, "421 Later"},
+        {"/web", {{"CWD", "450 Busy"}, {"MKD", "550-No\r\n550 really"}}, "550 really"},
+        {"/web", {{"CWD", "550 "}, {"MKD", "550 "}}, "550"},
         {"/web",
-         {{"PASS", "530 Who?"}},
-         "Error al conectar con el servidor FTP '127.0.0.1'. 530 Who?"},
-        {"/web",
-         {{"CWD", "450 Busy"}, {"MKD", "550-No\r\n550 really"}},
-         "Error al conectar con el servidor FTP '127.0.0.1'. 550 really"},
+         {{"CWD", "550 " + QByteArray(2000, 'x')}, {"MKD", "550 " + QByteArray(2000, 'x')}},
+         "550 " + QString(396, u'x')},
+        {"/web\r\nDELE a", {}, "Hay caracteres que no puede llevar una orden"},
     };
     for (const auto& failure : kCases) {
         SetFTP("127.0.0.1", failure.path, "ana", "clave");
@@ -132,27 +146,136 @@ TEST_F(SendFilesTest, AFailedConnectionIsToldAndNothingIsRecorded) {
         boxes.seen.clear();
         std::vector<OutputFile> files = {File("a.html", "text")};
         EXPECT_FALSE(SendFiles(files));
-        EXPECT_EQ(boxes.Texts(), failure.box);
+        EXPECT_EQ(boxes.Texts(),
+                  "Error al conectar con el servidor FTP '127.0.0.1'. " + failure.told);
         EXPECT_EQ(boxes.seen.at(0).icon, QMessageBox::Warning);
         EXPECT_TRUE(Shows(form.imgFailedStep, kConnectStep));
         EXPECT_FALSE(Recorded(files[0]));
-        ineFTPSend().Cancel();
+        delete &ineFTPSend(); // the next case has a session of its own
+    }
+    EXPECT_EQ(server.Record().Count("DELE"), 0);
+}
+
+TEST_F(SendFilesTest, SettingsThatCantBeAServerAreToldSo) {
+    const std::pair<QString, QString> kCases[] = {
+        {"", "ana"},
+        {"a b", "ana"},
+        {"127.0.0.1/x", "ana"},
+        {"127.0.0.1:21", "ana"},
+        {"ana@host", "ana"},
+        {"[::1", "ana"},
+        {"::1%a b", "ana"},
+        {"127.0.0.1\n", "ana\n"},
+        {"127.0.0.1", "a\r\nDELE b"},
+    };
+    for (const auto& [host, user] : kCases) {
+        SetFTP(host, "/web", user, "clave");
+        boxes.seen.clear();
+        EXPECT_FALSE(ConnectFTP());
+        EXPECT_EQ(boxes.Texts(), "Se produjo un error al intentar conectar con el servidor FTP '" +
+                                     host + "'.\n Asegúrese que la configuración es la correcta.");
+    }
+    EXPECT_EQ(server.Record().sessions, 0);
+}
+
+TEST_F(SendFilesTest, WhatIsTypedReachesTheServerByteForByte) {
+    QString printable;
+    for (char16_t letter = u' '; letter <= 0xFF; letter += letter == u'~' ? 0x22 : 1) {
+        printable += QChar(letter);
+    }
+    const QByteArray bytes = printable.toLatin1();
+    FtpFaults faults;
+    faults.replies = {{"CWD", "250 There"}};
+    server.Misbehave(faults);
+    const std::pair<QString, QByteArray> kPaths[] = {
+        {"/web/", "/web"},    {"web", "web"},       {"", {}},           {"/", "/"},
+        {"../a/.", "../a/."}, {" a  b ", " a  b "}, {printable, bytes}, {"//", "/"},
+    };
+    for (const auto& [path, expected] : kPaths) {
+        SetFTP(" FTP://localhost/ ", path, printable, printable);
+        server.ForgetCommands();
+        EXPECT_TRUE(ConnectFTP()) << boxes.Texts().toStdString();
+        const QList<QByteArray> commands = server.Record().commands;
+        EXPECT_EQ(commands.mid(0, 2),
+                  (QList<QByteArray>{("USER " + bytes).trimmed(), ("PASS " + bytes).trimmed()}));
+        EXPECT_EQ(commands.value(3), expected.isEmpty() ? "" : ("CWD " + expected).trimmed());
+        delete &ineFTPSend();
     }
 }
 
 TEST_F(SendFilesTest, ARefusedFileStopsTheSendingButCountsAsSent) {
+    const struct {
+        QHash<QByteArray, QByteArray> replies;
+        QString told;
+    } kCases[] = {
+        {{{"STOR", "553 Not that name"}}, "553 Not that name (12003)."},
+        {{{"STOR", "421 Good night"}}, "421 Good night (12003)."},
+        {{{"TYPE", "504 No"}}, "504 No (12003)."},
+        {{{"EPSV", "500 What?"}, {"PASV", "425 No"}}, "425 No (12003)."},
+        {{{"226", "552 Quota"}}, "552 Quota (12003)."},
+        {{{"226", "299 Hm"}}, "El servidor ha contestado de forma inesperada (12003)."},
+    };
+    for (const auto& refusal : kCases) {
+        FtpFaults faults;
+        faults.replies = refusal.replies;
+        server.Misbehave(faults);
+        boxes.seen.clear();
+        QFile::remove(folder.path() + "/md5control.txt");
+        ResetControlFile();
+        std::vector<OutputFile> files = {File("a.html", "text"), File("b.html", "more")};
+        EXPECT_TRUE(SendFiles(files));
+        EXPECT_EQ(boxes.Texts(), "Error al enviar el archivoa.html. " + refusal.told);
+        EXPECT_EQ(boxes.seen.at(0).icon, QMessageBox::Information);
+        EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
+        EXPECT_TRUE(Recorded(files[0]));
+        EXPECT_FALSE(Recorded(files[1]));
+        EXPECT_TRUE(QFile::exists(StagingFile()));
+        delete &ineFTPSend();
+    }
+    EXPECT_FALSE(server.Record().files.contains("/web/b.html"));
+}
+
+TEST_F(SendFilesTest, AServerThatFallsSilentIsGivenUpInTime) {
     FtpFaults faults;
-    faults.replies = {{"STOR", "553 Not that name"}};
+    faults.stall = true;
     server.Misbehave(faults);
-    std::vector<OutputFile> files = {File("a.html", "text"), File("b.html", "more")};
+    FTPRequestTimeout = 1;
+    std::vector<OutputFile> files = {File("a.html", "text")};
     EXPECT_TRUE(SendFiles(files));
-    EXPECT_EQ(boxes.Texts(), "Error al enviar el archivoa.html. 553 Not that name (12003).");
-    EXPECT_EQ(boxes.seen.at(0).icon, QMessageBox::Information);
-    EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
-    EXPECT_TRUE(Recorded(files[0]));
-    EXPECT_FALSE(Recorded(files[1]));
-    EXPECT_EQ(server.Record().Count("STOR"), 1);
-    EXPECT_TRUE(QFile::exists(StagingFile()));
+    FTPRequestTimeout = 20;
+    EXPECT_EQ(boxes.Texts(), "Error al enviar el archivoa.html. El servidor no responde (12002).");
+}
+
+// libcurl is on the stack then, waiting for the reply.
+TEST_F(SendFilesTest, AFileGivenUpWhileTheServerIsSilentEndsAtOnce) {
+    FtpFaults faults;
+    faults.stall = true;
+    server.Misbehave(faults);
+    QFile local(StagingFile());
+    ASSERT_TRUE(local.open(QIODevice::WriteOnly) && local.write("text") == 4 && local.flush());
+    for (const bool deletes : {false, true}) {
+        ASSERT_TRUE(ConnectFTP());
+        const QString name = deletes ? "b" : "a";
+        ineFTPSend().Execute("PUT \"" + StagingFile() + "\" \"" + name + "\"");
+        QTimer poll;
+        bool givenUp = false;
+        QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+            if (server.Record().files.contains("/web/" + name.toLatin1())) {
+                givenUp = true;
+                deletes ? delete &ineFTPSend() : ineFTPSend().Cancel();
+                poll.stop();
+                ServeEvents();
+            }
+        });
+        poll.start(20);
+        QElapsedTimer time;
+        time.start();
+        while (!givenUp && !time.hasExpired(10'000)) {
+            WaitForEvents();
+        }
+        EXPECT_TRUE(givenUp && !time.hasExpired(5'000));
+        EXPECT_FALSE(ineFTPSend().StillExecuting());
+    }
 }
 
 TEST_F(SendFilesTest, AFileCutByAResetIsSentAgainOnANewConnection) {
@@ -169,14 +292,21 @@ TEST_F(SendFilesTest, AFileCutByAResetIsSentAgainOnANewConnection) {
     EXPECT_TRUE(Shows(form.imgDoneStep, kSendStep));
 }
 
+// A big file is cut, a small one refused when the server has it all.
 TEST_F(SendFilesTest, AServerOutOfRoomIsToldAndNotTriedForEver) {
     FtpFaults faults;
     faults.roomFor = 1000;
     server.Misbehave(faults);
-    std::vector<OutputFile> files = {File("big.jpg", QByteArray(3'000'000, 'j'))};
-    EXPECT_TRUE(SendFiles(files));
-    EXPECT_EQ(boxes.Texts(), "Error al enviar el archivobig.jpg. 452 No room left (12003).");
-    EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
+    for (const int size : {3'000'000, 3'000}) {
+        boxes.seen.clear();
+        std::vector<OutputFile> files = {File("big.jpg", QByteArray(size, 'j'))};
+        EXPECT_TRUE(SendFiles(files));
+        EXPECT_EQ(boxes.Texts(), "Error al enviar el archivobig.jpg. 452 No room left (12003).");
+        EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
+        StartSteps();
+        NextStep();
+        NextStep();
+    }
 }
 
 TEST_F(SendFilesTest, AServerThatRefusesDataEndsTheSending) {
@@ -192,11 +322,16 @@ TEST_F(SendFilesTest, AServerThatRefusesDataEndsTheSending) {
 TEST_F(SendFilesTest, AServerThatClosesBetweenFilesGetsThemAll) {
     FtpFaults faults;
     faults.closeAfterFile = true;
-    server.Misbehave(faults);
-    std::vector<OutputFile> files = {File("a", "1"), File("b", "2"), File("c", "3")};
-    EXPECT_TRUE(SendFiles(files));
-    EXPECT_EQ(server.Record().files.size(), 3);
-    EXPECT_EQ(boxes.Texts(), "");
+    for (const char* farewell : {"", "421 Idle for too long\r\n"}) {
+        faults.farewell = farewell;
+        server.Misbehave(faults);
+        const QByteArray text = QByteArray("text") + farewell;
+        std::vector<OutputFile> files = {File("a", text), File("b", text), File("c", text)};
+        EXPECT_TRUE(SendFiles(files));
+        EXPECT_EQ(server.Record().files["/web/c"], text);
+        EXPECT_EQ(boxes.Texts(), "");
+    }
+    EXPECT_EQ(server.Record().sessions, 6); // none to say good-bye
 }
 
 TEST_F(SendFilesTest, CancellingStopsBetweenFilesAndKeepsWhatWasRecorded) {
