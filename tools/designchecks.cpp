@@ -8,6 +8,7 @@
 #include "tools/paramchecks.h"
 
 #include <QSet>
+#include <algorithm>
 
 namespace {
 
@@ -155,20 +156,48 @@ void CheckRepeated(const Design& design, PackReport& report) {
     }
 }
 
-// Two copied files of one name: the later one is what the site gets.
+// The files of the site that a section writes. Layout pages exist in previews only, and zone pages
+// are named by their zone.
+QStringList WrittenNames(const DesignSection& section, const QStringList& languages) {
+    const int kind = section.kind->number;
+    QStringList names;
+    if (kind == kKindHomePage) {
+        names = {"index.html", "index%LID%.html"};
+    } else if (section.kind->name == NameUse::File && kind != kKindLayoutPage &&
+               kind != kKindZonePage) {
+        names = {section.name};
+    }
+    QStringList written;
+    for (const QString& name : names) {
+        const bool resolved = kind == kKindHomePage || section.IsFinished();
+        for (const QString& language :
+             section.IsPerLanguage() && resolved ? languages : QStringList("%LID%")) {
+            written.append(QString(name).replace("%LID%", language));
+        }
+    }
+    written.removeDuplicates();
+    return written;
+}
+
+// Two sections that write one file: the later one is what the site gets.
 void CheckSameNames(const Design& design, PackReport& report) {
+    const DesignSection* words = design.Find(kKindLanguages);
+    const QStringList languages =
+        words == nullptr ? QStringList("%LID%") : SplitFields(words->name, "|");
     QSet<QString> seen;
     for (const DesignSection& section : design.sections) {
-        const bool copied = section.kind->number == kKindCopiedFile;
-        const bool page = section.kind->name == NameUse::File &&
-                          section.kind->body == BodyUse::Text && section.kind->perLanguage;
-        if ((copied || page) && seen.contains(section.name)) {
+        if (!section.kind->repeatable && design.Find(section.kind->number) != &section) {
+            continue;
+        }
+        const QStringList names = WrittenNames(section, languages);
+        const auto twice = std::find_if(names.begin(), names.end(), [&seen](const QString& name) {
+            return seen.contains(name);
+        });
+        if (twice != names.end()) {
             report.Warning(section.source.Place("name"),
-                           "otra sección escribe también el fichero «" + section.name + "»");
+                           "otra sección escribe también el fichero «" + *twice + "»");
         }
-        if (copied || page) {
-            seen.insert(section.name);
-        }
+        seen.unite(QSet<QString>(names.begin(), names.end()));
     }
 }
 

@@ -198,6 +198,12 @@ TEST(PackDesign, MistakesInTheManifestAreToldWithTheirLine) {
         {"[section]\nkind = copy\nname = a.css\ntext = a\n"
          "[section]\nkind = copy\nname = a.css\ntext = b\n",
          "design.ini:18: aviso: otra sección escribe también el fichero «a.css»"},
+        {"[section]\nkind = copy\nname = indexES.html\ntext = a\n",
+         "design.ini:14: aviso: sin %LID% en el nombre, cada idioma sobrescribe al anterior|"
+         "design.ini:14: aviso: otra sección escribe también el fichero «indexES.html»"},
+        {"[section]\nkind = logo\nname = a.jpg\nparams = OPTIMALSIZE=9X9;\n"
+         "[section]\nkind = map\nname = a.jpg\nparams = OPTIMALSIZE=9X9;\n",
+         "design.ini:18: aviso: otra sección escribe también el fichero «a.jpg»"},
         {"[section]\nkind = page\nname = p%LID%%%PRID%%.html\ntext = a\n",
          "design.ini:14: aviso: %%PRID%% no se sustituye en este nombre"},
     };
