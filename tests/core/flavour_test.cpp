@@ -1,9 +1,8 @@
 #include "core/flavour.h"
 
 #include "platform/ansi.h"
+#include "tests/support/files.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -23,10 +22,7 @@ QByteArray Scrambled(const QString& text) {
 class Flavour : public testing::Test {
 protected:
     bool LoadBytes(const QByteArray& bytes) {
-        QFile file(home.filePath("sector.dat"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
+        WriteFile(home.filePath("sector.dat"), bytes);
         return LoadFlavour(home.path() + '/');
     }
 

@@ -1,9 +1,9 @@
 // From the start of the process to its end, as processes of their own with a user at hand
 // (starter.cpp).
+#include "tests/support/files.h"
+
 #include <QDir>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -28,15 +28,10 @@ protected:
     }
 
     void Write(const QString& name, const QByteArray& bytes) const {
-        QFile file(home.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        WriteFile(home.filePath(name), bytes);
     }
 
-    QByteArray Read(const QString& name) const {
-        QFile file(home.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Read(const QString& name) const { return ReadFile(home.filePath(name)); }
 
     void Make(const QString& folder, const QStringList& more) const {
         QProcess::execute(MAKESTORE,

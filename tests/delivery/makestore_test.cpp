@@ -1,6 +1,7 @@
+#include "tests/support/files.h"
+
 #include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -8,9 +9,7 @@ namespace {
 class MakeStore : public testing::Test {
 protected:
     QString Write(const QString& name, const QByteArray& bytes) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
+        return WriteFile(folder.filePath(name), bytes);
     }
 
     // The exit code; what the tool said is kept.
@@ -48,7 +47,5 @@ TEST_F(MakeStore, LeavesNothingWhereAFileFailsAndNamesIt) {
 TEST_F(MakeStore, NeverTouchesAStoreThatExists) {
     Write("Zandora.zdb", "a user's catalogue");
     EXPECT_EQ(Run({Write("good.sql", "CREATE TABLE T (A TEXT);")}), 1);
-    QFile file(store);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "a user's catalogue");
+    EXPECT_EQ(ReadFile(store), "a user's catalogue");
 }

@@ -1,10 +1,10 @@
 #include "generator/outputs.h"
 
 #include "core/settings.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -14,11 +14,6 @@ void Add(const QString& name, const QByteArray& data) {
     file.Name = name;
     file.Data = data;
     AddOutputFile(file);
-}
-
-QByteArray ReadFile(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
 }
 
 class Outputs : public testing::Test {
@@ -40,9 +35,7 @@ protected:
 TEST_F(Outputs, LaterFilesOverwriteEarlierOnesAndStrangersStay) {
     const QString folder = Path("site/");
     QDir().mkdir(folder);
-    QFile stranger(folder + "old.html");
-    ASSERT_TRUE(stranger.open(QIODevice::WriteOnly) && stranger.write("old"));
-    stranger.close();
+    WriteFile(folder + "old.html", "old");
     QFile::link(Path("outside"), folder + "año.html");
     Add("", "gives its place to the next");
     Add("a.html             ", "first");
@@ -66,10 +59,7 @@ TEST_F(Outputs, FolderIsMadeOneLevelDeep) {
 }
 
 TEST_F(Outputs, ReadOnlyFileEndsTheSaveThere) {
-    QFile file(Path("b.html"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("kept"));
-    file.close();
-    file.setPermissions(QFile::ReadOwner);
+    QFile::setPermissions(WriteFile(Path("b.html"), "kept"), QFile::ReadOwner);
     Add("a.html", "a");
     Add("b.html", "b");
     Add("c.html", "c");

@@ -5,6 +5,7 @@
 #include "generator/outputs.h"
 #include "generator/templatepreview.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/templatebuilder.h"
 #include "tests/support/testpictures.h"
 
@@ -13,7 +14,6 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -40,11 +40,6 @@ bool LoadBytes(const QByteArray& bytes) {
     file.open(QIODevice::ReadOnly);
     ResetTemplateState();
     return LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file);
-}
-
-void WriteFile(const QString& path, const QByteArray& data) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
 }
 
 QByteArray TwoByteBmp() {

@@ -1,8 +1,9 @@
 #include "platform/fileops.h"
 
+#include "tests/support/files.h"
+
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <cerrno>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -17,20 +18,9 @@ protected:
     void SetUp() override {
         QDir(home.path()).mkdir("to");
         for (const char* name : {"a.jpg", "B.JPG", "noext", ".hidden", "c.png", "w[1].jpg"}) {
-            Write(home.filePath(name), name);
+            WriteFile(home.filePath(name), name);
         }
         QDir(home.path()).mkdir("folder.jpg");
-    }
-
-    static void Write(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    static QByteArray Read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
     }
 
     static QStringList Names(const QString& folder) {
@@ -45,28 +35,24 @@ protected:
 } // namespace
 
 TEST_F(FileOps, PatternsTakeFilesWithoutRegardToCase) {
-    struct Case {
-        const char* pattern;
-        QStringList names;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, QStringList> cases[] = {
         {"*.jpg", {"B.JPG", "a.jpg", "w[1].jpg"}},
         {"*.*", {".hidden", "B.JPG", "a.jpg", "c.png", "noext", "w[1].jpg"}},
         {"?.PNG", {"c.png"}},
         {"w[1]*", {"w[1].jpg"}},
     };
-    for (const Case& item : cases) {
-        EXPECT_EQ(FileOperation(FileOp::Copy, {At(item.pattern)}, At("to")), 0) << item.pattern;
-        EXPECT_EQ(Names(At("to")), item.names) << item.pattern;
+    for (const auto& [pattern, names] : cases) {
+        EXPECT_EQ(FileOperation(FileOp::Copy, {At(pattern)}, At("to")), 0) << pattern;
+        EXPECT_EQ(Names(At("to")), names) << pattern;
         EXPECT_EQ(FileOperation(FileOp::Delete, {At("to/*.*")}, {}), 0);
     }
 }
 
 TEST_F(FileOps, FileNamedLikeAPatternIsItself) {
-    Write(At("que?.jpg"), "pregunta");
-    Write(At("ques.jpg"), "otro");
+    WriteFile(At("que?.jpg"), "pregunta");
+    WriteFile(At("ques.jpg"), "otro");
     EXPECT_EQ(FileOperation(FileOp::Copy, {At("que?.jpg")}, At("to/Pic1.dat")), 0);
-    EXPECT_EQ(Read(At("to/Pic1.dat")), "pregunta");
+    EXPECT_EQ(ReadFile(At("to/Pic1.dat")), "pregunta");
 }
 
 TEST_F(FileOps, FailuresGiveTheSystemsNumberAndLeaveEverything) {
@@ -81,11 +67,11 @@ TEST_F(FileOps, FailuresGiveTheSystemsNumberAndLeaveEverything) {
 }
 
 TEST_F(FileOps, CopyReplacesAndRenameAndMoveLeaveNoSource) {
-    Write(At("to/a.jpg"), "old and longer than the new one");
+    WriteFile(At("to/a.jpg"), "old and longer than the new one");
     EXPECT_EQ(FileOperation(FileOp::Copy, {At("a.jpg")}, At("to")), 0);
-    EXPECT_EQ(Read(At("to/a.jpg")), "a.jpg");
+    EXPECT_EQ(ReadFile(At("to/a.jpg")), "a.jpg");
     EXPECT_EQ(FileOperation(FileOp::Copy, {At("to/a.jpg")}, At("to/a.jpg")), 0);
-    EXPECT_EQ(Read(At("to/a.jpg")), "a.jpg"); // onto itself
+    EXPECT_EQ(ReadFile(At("to/a.jpg")), "a.jpg"); // onto itself
     EXPECT_EQ(FileOperation(FileOp::Rename, {At("to/a.jpg")}, At("to/b.jpg")), 0);
     EXPECT_EQ(FileOperation(FileOp::Move, {At("a.jpg"), At("c.png")}, At("to/")), 0);
     EXPECT_EQ(Names(At("to")), (QStringList{"a.jpg", "b.jpg", "c.png"}));
@@ -96,8 +82,8 @@ TEST_F(FileOps, MoveThatFailsHalfWayTakesBackWhatItMoved) {
     QDir(home.path()).mkpath("to/noext"); // a folder is in the way of the last file
     EXPECT_EQ(FileOperation(FileOp::Move, {At("a.jpg"), At("c.png"), At("noext")}, At("to")),
               EISDIR);
-    EXPECT_EQ(Read(At("a.jpg")), "a.jpg");
-    EXPECT_EQ(Read(At("c.png")), "c.png");
+    EXPECT_EQ(ReadFile(At("a.jpg")), "a.jpg");
+    EXPECT_EQ(ReadFile(At("c.png")), "c.png");
     EXPECT_EQ(Names(At("to")), QStringList());
 }
 
@@ -113,7 +99,7 @@ TEST_F(FileOps, MoveCrossesFileSystemsWithTimeAndMode) {
     ASSERT_EQ(::stat(qPrintable(At("a.jpg")), &here), 0);
     EXPECT_EQ(FileOperation(FileOp::Move, {At("*.jpg")}, other.path()), 0);
     EXPECT_EQ(Names(other.path()), (QStringList{"B.JPG", "a.jpg", "w[1].jpg"}));
-    EXPECT_EQ(Read(other.filePath("B.JPG")), "B.JPG");
+    EXPECT_EQ(ReadFile(other.filePath("B.JPG")), "B.JPG");
     EXPECT_FALSE(QFile::exists(At("a.jpg")));
     ASSERT_EQ(::stat(qPrintable(other.filePath("a.jpg")), &there), 0);
     EXPECT_EQ(there.st_mode, here.st_mode);
@@ -126,7 +112,7 @@ TEST_F(FileOps, ReplaceFileKeepsPermissionsAndLinksAndLeavesNoTrace) {
     QFile::setPermissions(At("c.png"), permissions);
     ASSERT_TRUE(QFile::link(At("c.png"), At("link")));
     EXPECT_TRUE(ReplaceFile(At("link"), "new"));
-    EXPECT_EQ(Read(At("c.png")), "new");
+    EXPECT_EQ(ReadFile(At("c.png")), "new");
     EXPECT_EQ(QFile::permissions(At("c.png")), permissions);
     EXPECT_TRUE(QFileInfo(At("link")).isSymLink());
     EXPECT_FALSE(ReplaceFile(At("none/file"), "x"));

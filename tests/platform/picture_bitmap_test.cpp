@@ -12,15 +12,6 @@ QImage Read(const QByteArray& bytes) {
     return ReadPictureBytes(bytes, "mapa").image;
 }
 
-QString Failure(const QByteArray& bytes) {
-    try {
-        Read(bytes);
-        return {};
-    } catch (const PictureError& error) {
-        return error.Text();
-    }
-}
-
 QByteArray Hex(const char* text) {
     return QByteArray::fromHex(text);
 }
@@ -139,7 +130,7 @@ TEST(BitmapReader, DamagedOrAbsurdFilesAreRefused) {
         {"BMP with an unknown header", QByteArray(bmp).replace(14, 4, Hex("0D000000")), "dañado"},
     };
     for (const auto& c : kCases) {
-        const QString failure = Failure(c.bytes);
+        const QString failure = ReadingFailure(c.bytes);
         EXPECT_TRUE(failure.contains(c.reason)) << c.what << ": " << failure.toStdString();
     }
 }

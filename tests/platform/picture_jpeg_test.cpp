@@ -1,8 +1,8 @@
 #include "platform/picturefile.h"
+#include "tests/support/files.h"
 #include "tests/support/testpictures.h"
 
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -11,16 +11,6 @@ constexpr QSize kSmall(48, 32);
 
 DecodedPicture Read(const QByteArray& bytes, QSize neededSize = {}) {
     return ReadPictureBytes(bytes, "foto", neededSize);
-}
-
-// The reason that reading fails with, or "" where it does not.
-QString Failure(const QByteArray& bytes) {
-    try {
-        Read(bytes);
-        return {};
-    } catch (const PictureError& error) {
-        return error.Text();
-    }
 }
 
 QByteArray WithCamera(int orientation, bool bigEndian = false, bool adobeRgb = false) {
@@ -71,11 +61,10 @@ TEST(JpegReader, BrokenCameraBlockCountsAsAbsent) {
 
 TEST(JpegReader, EveryColorModelGivesTheSameColors) {
     const QImage fields = FourFields(kSmall);
-    for (const JpegModel model :
-         {JpegModel::YCbCr, JpegModel::Rgb, JpegModel::Cmyk, JpegModel::Ycck}) {
+    for (const J_COLOR_SPACE model : {JCS_YCbCr, JCS_RGB, JCS_CMYK, JCS_YCCK}) {
         for (const bool progressive : {false, true}) {
             for (const bool adobeMarker : {false, true}) {
-                if (model == JpegModel::Ycck && !adobeMarker) {
+                if (model == JCS_YCCK && !adobeMarker) {
                     continue; // only the marker tells it from CMYK
                 }
                 JpegRecipe recipe;
@@ -88,7 +77,7 @@ TEST(JpegReader, EveryColorModelGivesTheSameColors) {
         }
     }
     JpegRecipe grey;
-    grey.model = JpegModel::Grey;
+    grey.model = JCS_GRAYSCALE;
     const QRgb corner = Read(MakeJpeg(fields, grey)).image.pixel(0, 0);
     const int level = qGray(kFieldA);
     EXPECT_LE(ColorDistance(corner, qRgb(level, level, level)), 2);
@@ -109,13 +98,13 @@ TEST(JpegReader, EmbeddedProfilesBringColorsToSrgb) {
     EXPECT_LT(qGreen(adobe), qGreen(plain));
     EXPECT_EQ(Read(WithCamera(1, false, true)).image.pixel(0, 0), adobe) << "marked by the camera";
 
-    const QRgb grey = corner({.model = JpegModel::Grey});
-    const QRgb linear = corner({.model = JpegModel::Grey, .profile = LinearGreyProfile()});
+    const QRgb grey = corner({.model = JCS_GRAYSCALE});
+    const QRgb linear = corner({.model = JCS_GRAYSCALE, .profile = LinearGreyProfile()});
     EXPECT_GT(qRed(linear), qRed(grey) + 40);
     EXPECT_EQ(qRed(linear), qBlue(linear));
 
     for (const bool inverted : {false, true}) {
-        JpegRecipe cmyk{.model = JpegModel::Cmyk, .adobeMarker = inverted};
+        JpegRecipe cmyk{.model = JCS_CMYK, .adobeMarker = inverted};
         cmyk.profile = SwappedCmykProfile();
         const QRgb swapped = corner(cmyk);
         EXPECT_GT(qGreen(swapped), qRed(swapped) + 40) << inverted;
@@ -145,13 +134,13 @@ TEST(JpegReader, DecodesAtTheSmallestFastScaleThatCoversTheNeededSizeTwice) {
 
 TEST(JpegReader, SmallFaultsAreForgiven) {
     const QByteArray jpeg = MakeJpeg(FourFields(kSmall));
-    EXPECT_EQ(Failure(jpeg.chopped(2)), "") << "no end marker";
-    EXPECT_EQ(Failure(jpeg + "behind the picture"), "");
+    EXPECT_EQ(ReadingFailure(jpeg.chopped(2)), "") << "no end marker";
+    EXPECT_EQ(ReadingFailure(jpeg + "behind the picture"), "");
     QByteArray stray = jpeg;
     stray.insert(jpeg.size() - 2, QByteArray(9, '\x11'));
-    EXPECT_EQ(Failure(stray), "") << "stray bytes before the end marker";
+    EXPECT_EQ(ReadingFailure(stray), "") << "stray bytes before the end marker";
     const QByteArray progressive = MakeJpeg(FourFields(kSmall), {.progressive = true});
-    EXPECT_EQ(Failure(progressive.chopped(2)), "") << "progressive without an end marker";
+    EXPECT_EQ(ReadingFailure(progressive.chopped(2)), "") << "progressive without an end marker";
 }
 
 TEST(JpegReader, DamagedOrAbsurdFilesAreRefusedByName) {
@@ -190,21 +179,18 @@ TEST(JpegReader, DamagedOrAbsurdFilesAreRefusedByName) {
         {"no size", WithSize(jpeg, QByteArray(4, '\0')), "dañado"},
     };
     for (const auto& c : kCases) {
-        const QString failure = Failure(c.bytes);
+        const QString failure = ReadingFailure(c.bytes);
         EXPECT_TRUE(failure.contains(c.reason)) << c.what << ": " << failure.toStdString();
         EXPECT_TRUE(failure.contains("foto")) << c.what;
     }
-    EXPECT_EQ(Failure(progressive), "");
+    EXPECT_EQ(ReadingFailure(progressive), "");
 }
 
 TEST(PictureFile, SizeComesFromTheHeadAndMissingFilesAreNamed) {
     QTemporaryDir folder;
-    const QString path = folder.filePath("Pic1000101.dat");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(WithCamera(6).left(900)); // the picture's data are cut
-    file.close();
-    EXPECT_EQ(ReadPictureSize(path), kSmall.transposed());
+    const QByteArray cut = WithCamera(6).left(900); // within the picture's data
+    EXPECT_EQ(ReadPictureSize(WriteFile(folder.filePath("Pic1000101.dat"), cut)),
+              kSmall.transposed());
     for (const QString& missing : {folder.filePath("Pic7.dat"), folder.path() + "/"}) {
         try {
             ReadPicture(missing);

@@ -1,6 +1,7 @@
 #include "storefixture.h"
 
 #include "platform/presence.h"
+#include "tests/support/files.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -9,16 +10,6 @@
 #include <unistd.h>
 
 namespace {
-
-void WriteFile(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
-
-QByteArray ReadFile(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 void SetMode(const QString& path, mode_t mode) {
     ASSERT_EQ(chmod(path.toUtf8().constData(), mode), 0);

@@ -1,5 +1,7 @@
 #include "platform/usersettings.h"
 
+#include "tests/support/files.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,14 +19,11 @@ protected:
 
     static void WriteByHand(const QByteArray& bytes) {
         QDir().mkpath(Folder());
-        QFile file(SettingsPath(kApplication));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        WriteFile(SettingsPath(kApplication), bytes);
     }
 
     static QByteArray Content(const QString& name = "settings.ini") {
-        QFile file(Folder() + '/' + name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+        return ReadFile(Folder() + '/' + name);
     }
 };
 

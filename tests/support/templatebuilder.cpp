@@ -2,10 +2,10 @@
 
 #include "generator/template.h"
 #include "platform/ansi.h"
+#include "tests/support/files.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QtEndian>
 #include <gtest/gtest.h>
 
@@ -90,10 +90,7 @@ QByteArray TemplateBuilder::Bytes() const {
 }
 
 QString TemplateBuilder::Write(const QString& folder, const QString& fileName) const {
-    const QString path = QDir(folder).filePath(fileName);
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(Bytes()) > 0) << path.toStdString();
-    return path;
+    return WriteFile(QDir(folder).filePath(fileName), Bytes());
 }
 
 void TemplateBuilder::Load() const {

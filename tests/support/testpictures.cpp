@@ -1,10 +1,10 @@
 #include "tests/support/testpictures.h"
 
+#include "platform/picturefile.h"
+
 #include <QPainter>
 #include <QtEndian>
-#include <cstdio>
 #include <cstdlib>
-#include <jpeglib.h>
 #include <lcms2.h>
 
 namespace {
@@ -33,49 +33,30 @@ private:
     QByteArray bytes_;
 };
 
-void PutPixel(QRgb color, JpegModel model, bool inverted, uchar* to) {
-    const uchar rgb[] = {uchar(qRed(color)), uchar(qGreen(color)), uchar(qBlue(color))};
-    const uchar mask = inverted ? 0 : 255;
-    switch (model) {
-    case JpegModel::Grey:
-        *to = uchar(qGray(color));
-        break;
-    case JpegModel::Cmyk:
-    case JpegModel::Ycck:
-        for (int i = 0; i < 3; ++i) {
-            to[i] = rgb[i] ^ mask;
-        }
-        to[3] = 255 ^ mask;
-        break;
-    default:
-        std::copy(rgb, rgb + 3, to);
-    }
+bool IsInks(const JpegRecipe& recipe) {
+    return recipe.model == JCS_CMYK || recipe.model == JCS_YCCK;
 }
 
-J_COLOR_SPACE StoredSpace(JpegModel model) {
-    switch (model) {
-    case JpegModel::Rgb:
-        return JCS_RGB;
-    case JpegModel::Grey:
-        return JCS_GRAYSCALE;
-    case JpegModel::Cmyk:
-        return JCS_CMYK;
-    case JpegModel::Ycck:
-        return JCS_YCCK;
-    default:
-        return JCS_YCbCr;
+void PutPixel(QRgb color, const JpegRecipe& recipe, uchar* to) {
+    const uchar mask = IsInks(recipe) && !recipe.adobeMarker ? 255 : 0;
+    const uchar bytes[] = {uchar(qRed(color)), uchar(qGreen(color)), uchar(qBlue(color)), 255};
+    if (recipe.model == JCS_GRAYSCALE) {
+        *to = uchar(qGray(color));
+        return;
+    }
+    for (int i = 0; i < (IsInks(recipe) ? 4 : 3); ++i) {
+        to[i] = bytes[i] ^ mask;
     }
 }
 
 void Configure(jpeg_compress_struct& encoder, const JpegRecipe& recipe) {
-    const bool isCmyk = recipe.model == JpegModel::Cmyk || recipe.model == JpegModel::Ycck;
-    const bool isGrey = recipe.model == JpegModel::Grey;
-    encoder.input_components = isCmyk ? 4 : isGrey ? 1 : 3;
-    encoder.in_color_space = isCmyk ? JCS_CMYK : isGrey ? JCS_GRAYSCALE : JCS_RGB;
+    const bool isGrey = recipe.model == JCS_GRAYSCALE;
+    encoder.input_components = IsInks(recipe) ? 4 : isGrey ? 1 : 3;
+    encoder.in_color_space = IsInks(recipe) ? JCS_CMYK : isGrey ? JCS_GRAYSCALE : JCS_RGB;
     jpeg_set_defaults(&encoder);
-    jpeg_set_colorspace(&encoder, StoredSpace(recipe.model));
+    jpeg_set_colorspace(&encoder, recipe.model);
     jpeg_set_quality(&encoder, recipe.quality, TRUE);
-    if (isCmyk) {
+    if (IsInks(recipe)) {
         encoder.write_Adobe_marker = recipe.adobeMarker ? TRUE : FALSE;
     }
     if (recipe.progressive) {
@@ -218,7 +199,7 @@ QByteArray MakeJpeg(const QImage& image, const JpegRecipe& recipe) {
     std::vector<uchar> row(std::size_t(image.width()) * encoder.input_components);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            PutPixel(image.pixel(x, y), recipe.model, recipe.adobeMarker,
+            PutPixel(image.pixel(x, y), recipe,
                      row.data() + std::size_t(x) * encoder.input_components);
         }
         JSAMPROW pointer = row.data();
@@ -326,4 +307,13 @@ QByteArray MakeBmp(QSize size, const QByteArray& pixels, const BmpRecipe& recipe
         bytes.Put(0, 4).Put(0, 4);
     }
     return bytes.Put(recipe.table).Put(pixels).Get();
+}
+
+QString ReadingFailure(const QByteArray& bytes) {
+    try {
+        ReadPictureBytes(bytes, "foto", {});
+        return {};
+    } catch (const PictureError& error) {
+        return error.Text();
+    }
 }

@@ -5,6 +5,9 @@
 #include <QByteArray>
 #include <QColor>
 #include <QImage>
+#include <QString>
+#include <cstdio>
+#include <jpeglib.h>
 #include <vector>
 
 // Four fields of plain colour: A left above, B right above, C left below, D right below.
@@ -21,10 +24,8 @@ QByteArray CornerFields(const QImage& image, int tolerance = 12);
 // The largest difference of a channel between two colours, in levels.
 int ColorDistance(QRgb a, QRgb b);
 
-enum class JpegModel { YCbCr, Rgb, Grey, Cmyk, Ycck };
-
 struct JpegRecipe {
-    JpegModel model = JpegModel::YCbCr;
+    J_COLOR_SPACE model = JCS_YCbCr;
     bool progressive = false;
     bool adobeMarker = true; // CMYK only: the mark, and inks inverted
     QByteArray profile = {};
@@ -68,6 +69,10 @@ struct BmpRecipe {
     bool oldHeader = false; // of 12 bytes
     QByteArray table = {};  // palette or masks
 };
+
+// The reason that the program's reader refuses a picture for, which it calls "foto"; "" where it
+// takes it.
+QString ReadingFailure(const QByteArray& bytes);
 
 // A BMP around the pixels' bytes as they stand in the file.
 QByteArray MakeBmp(QSize size, const QByteArray& pixels, const BmpRecipe& recipe = {});

@@ -1,0 +1,27 @@
+// Files of tests, written and read whole.
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// Replaces what the file held and returns `path`; the test fails where that can't be done.
+QString WriteFile(const QString& path, const QByteArray& bytes);
+
+// "(none)" where there is no such file.
+QByteArray ReadFile(const QString& path);
+
+// While it lives, the desktop's tools of these names ("xdg-open", "lp") are stand-ins: each notes
+// its argument, keeps a copy of a file that it names, and ends with the code in EXIT_CODE.
+class DesktopTools {
+public:
+    explicit DesktopTools(const QStringList& names);
+    ~DesktopTools();
+
+    QByteArray Said(const QString& name) const; // argument of the last call
+    QByteArray Got(const QString& name) const;  // content of the file that it named
+
+private:
+    QTemporaryDir folder;
+    QByteArray path;
+};
