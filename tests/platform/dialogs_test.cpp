@@ -1,11 +1,12 @@
 #include "platform/dialogs.h"
 #include "platform/notify.h"
+#include "tests/support/boxes.h"
+#include "tests/support/files.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -94,21 +95,11 @@ TEST(Dialogs, ChoicesComeBackAsPathsOrEmpty) {
     LoadToolkitTexts();
     const QTemporaryDir home;
     QDir(home.path()).mkdir("fotos");
-    QFile picture(home.filePath("fotos/CASA.JPG"));
-    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
-    const auto choose = [](const QString& path) {
-        return [path](QFileDialog* dialog) {
-            dialog->selectFile(path);
-            static_cast<QDialog*>(dialog)->accept();
-        };
-    };
-    WhenShown<QFileDialog>(choose(home.filePath("fotos")));
-    EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), home.filePath("fotos"));
-    WhenShown<QFileDialog>(choose("/"));
-    EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), "/");
-    WhenShown<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
-    EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), "");
-
+    const QString picture = WriteFile(home.filePath("fotos/CASA.JPG"), {});
+    for (const QString& folder : {home.filePath("fotos"), QString("/"), QString()}) {
+        const PathChoice choice(folder);
+        EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), folder);
+    }
     WhenShown<QFileDialog>([&](QFileDialog* dialog) {
         EXPECT_EQ(dialog->windowTitle(), "Foto");
         EXPECT_EQ(dialog->directory().path(), home.filePath("fotos"));
@@ -118,9 +109,9 @@ TEST(Dialogs, ChoicesComeBackAsPathsOrEmpty) {
                   "Imágenes GIF (*.gif *.GIF)|Imágenes JPEG (*.jpg *.jpeg *.JPG *.JPEG)|"
                   "Imágenes BMP (*.bmp *.BMP)|Todos los Ficheros (*)");
         EXPECT_EQ(dialog->labelText(QFileDialog::Reject), "Cancelar"); // the toolkit's own text
-        choose(picture.fileName())(dialog);
+        ChoosePath(dialog, picture);
     });
-    EXPECT_EQ(BrowsePicture(nullptr, "Foto", home.filePath("fotos")), picture.fileName());
+    EXPECT_EQ(BrowsePicture(nullptr, "Foto", home.filePath("fotos")), picture);
 }
 
 TEST(Notify, UnhandledFailureIsShownOnceAndTheProgramGoesOn) {

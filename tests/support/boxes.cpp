@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QPushButton>
 
 BoxAnswers::BoxAnswers(QMessageBox::StandardButton newAnswer) : answer(newAnswer) {
@@ -43,6 +44,15 @@ void BoxAnswers::Answer(QMessageBox* box) {
     }
 }
 
+void ChoosePath(QFileDialog* dialog, const QString& path) {
+    if (path.isEmpty()) {
+        dialog->reject();
+        return;
+    }
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+    static_cast<QDialog*>(dialog)->accept();
+}
+
 PathChoice::PathChoice(const QString& newPath) : path(newPath) {
     qApp->installEventFilter(this);
 }
@@ -51,12 +61,8 @@ bool PathChoice::eventFilter(QObject* object, QEvent* event) {
     auto* dialog = qobject_cast<QFileDialog*>(object);
     if (dialog != nullptr && event->type() == QEvent::Show) {
         title = dialog->windowTitle();
-        const auto choose = [dialog, chosen = path] {
-            dialog->selectFile(chosen);
-            static_cast<QDialog*>(dialog)->done(chosen.isEmpty() ? QDialog::Rejected
-                                                                 : QDialog::Accepted);
-        };
-        QMetaObject::invokeMethod(dialog, choose, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            dialog, [dialog, chosen = path] { ChoosePath(dialog, chosen); }, Qt::QueuedConnection);
     }
     return QObject::eventFilter(object, event);
 }

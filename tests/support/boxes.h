@@ -1,6 +1,7 @@
 // Answers the real message boxes that a test provokes, as a user would, and keeps what they said.
 #pragma once
 
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QObject>
 #include <QString>
@@ -31,6 +32,10 @@ private:
 
     QMessageBox::StandardButton answer;
 };
+
+// Types the path and accepts; an empty one cancels. The dialog's own selectFile() would not do: it
+// leaves alone a box that has got the focus already.
+void ChoosePath(QFileDialog* dialog, const QString& path);
 
 // While it lives, every choice of a file or folder ends with this path, without a "/" behind it; an
 // empty one cancels.
