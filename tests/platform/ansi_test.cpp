@@ -11,11 +11,7 @@ TEST(Ansi, EveryByteSurvivesReadingAndWriting) {
 }
 
 TEST(Ansi, CharactersGetTheirByteOrTheSubstitute) {
-    struct Case {
-        const char16_t* text;
-        QByteArray bytes;
-    };
-    const Case cases[] = {
+    const std::pair<const char16_t*, QByteArray> cases[] = {
         {u"Ático 2.º ñ", "\xC1tico 2.\xBA \xF1"},
         {u"100 €", "100 \x80"},
         {u"“Œ™ž”", "\x93\x8C\x99\x9E\x94"},
@@ -23,7 +19,7 @@ TEST(Ansi, CharactersGetTheirByteOrTheSubstitute) {
         {u"a\U0001F600b", "a?b"},   // a surrogate pair is one character
         {u"\u0080\u0152", "?\x8C"}, // no control character takes the euro's byte
     };
-    for (const Case& item : cases) {
-        EXPECT_EQ(ToAnsi(item.text), item.bytes) << QString::fromUtf16(item.text).toStdString();
+    for (const auto& [text, bytes] : cases) {
+        EXPECT_EQ(ToAnsi(text), bytes) << QString::fromUtf16(text).toStdString();
     }
 }

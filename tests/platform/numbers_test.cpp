@@ -53,22 +53,18 @@ TEST_F(Numbers, ValuesFollowTheirPicture) {
 }
 
 TEST_F(Numbers, MarksAreTheLocalesAndFitTheCodePage) {
-    struct Case {
-        QLocale locale;
-        const char16_t* text;
-    };
-    const Case cases[] = {
+    const std::pair<QLocale, const char16_t*> cases[] = {
         {QLocale(QLocale::English, QLocale::UnitedStates), u"1,234.50"},
         {QLocale::c(), u"1,234.50"},
         {QLocale(QLocale::French, QLocale::France), u"1\u00A0234,50"},
         {QLocale(QLocale::German, QLocale::Switzerland), u"1\u2019234.50"},
         {QLocale(QLocale::Arabic, QLocale::Egypt), u"1,234.50"},
     };
-    for (const Case& item : cases) {
-        UseNumberLocale(item.locale);
-        EXPECT_EQ(FormatNumber(1234.5, u"#,##0.00"), QString::fromUtf16(item.text))
-            << item.locale.name().toStdString();
-        EXPECT_EQ(ParseNumber(QString::fromUtf16(item.text)), 1234.5);
+    for (const auto& [locale, text] : cases) {
+        UseNumberLocale(locale);
+        EXPECT_EQ(FormatNumber(1234.5, u"#,##0.00"), QString::fromUtf16(text))
+            << locale.name().toStdString();
+        EXPECT_EQ(ParseNumber(QString::fromUtf16(text)), 1234.5);
     }
 }
 
@@ -92,10 +88,9 @@ TEST_F(Numbers, WholeTextsAreNumbersByTheLocalesMarks) {
         {u"--1", false, 0},
     };
     for (const Case& item : cases) {
-        EXPECT_EQ(IsNumeric(item.text), item.isNumeric)
-            << QString::fromUtf16(item.text).toStdString();
-        EXPECT_EQ(ParseNumber(item.text), item.value)
-            << QString::fromUtf16(item.text).toStdString();
+        SCOPED_TRACE(QString::fromUtf16(item.text).toStdString());
+        EXPECT_EQ(IsNumeric(item.text), item.isNumeric);
+        EXPECT_EQ(ParseNumber(item.text), item.value);
     }
 }
 
@@ -124,10 +119,9 @@ TEST_F(Numbers, LeadingNumberIgnoresWhatFollowsAndTheLocale) {
         {u"1e999", 0, 0},
     };
     for (const Case& item : cases) {
-        EXPECT_EQ(LeadingNumber(item.text), item.number)
-            << QString::fromUtf16(item.text).toStdString();
-        EXPECT_EQ(LeadingInteger(item.text), item.integer)
-            << QString::fromUtf16(item.text).toStdString();
+        SCOPED_TRACE(QString::fromUtf16(item.text).toStdString());
+        EXPECT_EQ(LeadingNumber(item.text), item.number);
+        EXPECT_EQ(LeadingInteger(item.text), item.integer);
     }
 }
 

@@ -3,7 +3,6 @@
 #include "storefixture.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 namespace {
 
@@ -69,45 +68,4 @@ TEST(RowLock, TablesDoNotShareLocks) {
     const RowLock products(store.Path(), "Products", 1);
     EXPECT_NO_THROW(RowLock(store.Path(), "Texts", 1));
     EXPECT_EQ(ErrorOf([&] { RowLock(store.Path(), "PRODUCTS", 1); }), kErrRowLocked);
-}
-
-TEST(RowLock, OtherProcessHoldsTheRowUntilItDies) {
-    StoreFixture store;
-    store.Leave();
-    OtherProcess other([&](OtherProcess& parent) {
-        store.Enter();
-        Recordset row = store.Cursor(kFirst, true);
-        row.Set(u"SaleZone", QString("a medias"));
-        parent.Say('l');
-        parent.Hear();
-    });
-    ASSERT_EQ(other.Hear(), 'l');
-    store.Enter();
-    Recordset mine = store.Cursor(kFirst, true);
-    EXPECT_EQ(Probe(mine), kErrRowLocked);
-    other.Kill();
-    EXPECT_EQ(Probe(mine), 0);
-    EXPECT_EQ(mine.Text(u"SaleZone"), "Ávila");
-}
-
-TEST(RowLock, ProcessKilledInTheMiddleOfAWriteLeavesTheStoreWhole) {
-    StoreFixture store;
-    store.Leave();
-    OtherProcess other([&](OtherProcess& parent) {
-        store.Enter();
-        sqlite3_exec(store.Connection()->Handle(),
-                     "PRAGMA cache_size=1; BEGIN IMMEDIATE; UPDATE Products SET "
-                     "ProductRef='rota'; WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL "
-                     "SELECT i+1 FROM n WHERE i<2000) INSERT INTO Texts SELECT "
-                     "'x', i, 0, hex(randomblob(200)) FROM n",
-                     nullptr, nullptr, nullptr);
-        parent.Say('h');
-        parent.Hear();
-    });
-    ASSERT_EQ(other.Hear(), 'h');
-    ASSERT_GT(QFileInfo(store.Path() + "-journal").size(), 0);
-    other.Kill();
-    store.Enter();
-    EXPECT_EQ(store.Rows("SELECT ProductRef FROM Products"), "A-1/B-2/C-3");
-    EXPECT_EQ(store.Rows("SELECT count(*) FROM Texts"), "5");
 }
