@@ -1,8 +1,6 @@
 #include "forms/productlistmodel.h"
 
 #include <QAbstractItemModelTester>
-#include <QColor>
-#include <QFont>
 #include <gtest/gtest.h>
 
 namespace {
@@ -15,7 +13,7 @@ struct ProductListModelTest : testing::Test {
         model.AddColumn("ProductRef", "Ref.", false);
         model.AddColumn("ShortDesc", "Descripción breve", false);
         model.AddColumn("PriceAmount", "Precio", true);
-        model.SetRows({{{"A", "Mesa", "10"}}, {{"B", "Silla", "20"}, true}, {{"C", "Sofá", "30"}}});
+        model.SetRows({{{"A", "Mesa", "10"}}, {{"B", "Silla", "20"}}, {{"C", "Sofá", "30"}}});
     }
 };
 
@@ -39,22 +37,6 @@ TEST_F(ProductListModelTest, RowThatIsNotThereChangesNothing) {
         EXPECT_EQ(model.Text(row, 0), QString());
     }
     EXPECT_EQ(model.RowCount(), 3);
-}
-
-TEST_F(ProductListModelTest, MarksColourTheRowAndEmboldenTheDescription) {
-    model.SetMark(2, false, true);
-    const auto grey = [&](int row, int column) {
-        return model.data(model.index(row, column), Qt::ForegroundRole).value<QColor>() ==
-               QColor(0x90, 0x90, 0x90);
-    };
-    const auto bold = [&](int row, int column) {
-        return model.data(model.index(row, column), Qt::FontRole).value<QFont>().bold();
-    };
-    for (int column = 0; column < kProductColumns; ++column) {
-        EXPECT_TRUE(grey(1, column));
-        EXPECT_FALSE(grey(2, column));
-        EXPECT_EQ(bold(2, column), column == 1);
-    }
 }
 
 } // namespace
