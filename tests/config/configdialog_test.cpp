@@ -168,6 +168,7 @@ TEST_F(Config, AnotherDesignForgetsTheLastPublishAndDemotesBeyondItsLimit) {
     EXPECT_EQ(TemplateNum, 1);
     EXPECT_EQ(TemplMaxEmph, 1);
     EXPECT_EQ(Stored("SELECT ProductRef FROM Products WHERE IsNew = 1"), "C-3"); // the youngest
+    EXPECT_EQ(Stored("SELECT ProductRef FROM Products WHERE LastUpdate LIKE '2024%'"), "C-3");
     EXPECT_EQ(UserLangs, "EN");
 }
 

@@ -9,8 +9,11 @@
 #include "store/corpinfo.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
+#include "tests/support/templatebuilder.h"
 
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -53,6 +56,8 @@ TEST_F(StoreTools, CompactKeepsTheCatalogueAndTheProductOnScreen) {
 TEST_F(StoreTools, MoveTakesTheFilesToAnotherFolderAndOnlyThere) {
     const QString old = program.Folder();
     const QTemporaryDir other;
+    WriteFile(old + "Pic1000101.dat", "foto");
+    SetTemplate(TemplateBuilder().Write(old, "Default.zdt"), 0, 6);
     EXPECT_EQ(Press(kToolMove), "Se ha cancelado la operación de mover la Base de Datos");
     EXPECT_EQ(Press(kToolMove, old.chopped(1)),
               "No se ha movido la Base de Datos, dado que esta ya se "
@@ -62,7 +67,9 @@ TEST_F(StoreTools, MoveTakesTheFilesToAnotherFolderAndOnlyThere) {
               "Los archivos de la Base de Datos se han movido con éxito");
     EXPECT_EQ(folderShown, other.path() + '/');
     EXPECT_EQ(DBpath, other.path() + '/');
-    EXPECT_FALSE(QFile::exists(old + "Zandora.zdb"));
+    EXPECT_EQ(TemplPath, other.path() + "/Default.zdt");
+    EXPECT_EQ(ReadFile(other.filePath("Pic1000101.dat")), "foto");
+    EXPECT_TRUE(QDir(old).isEmpty(QDir::Files | QDir::Hidden));
     EXPECT_TRUE(StoreOpen);
     EXPECT_EQ(ListRowCount(), 3);
 }

@@ -72,10 +72,7 @@ TEST(Assistance, ADoubleClickTakesTheTextOverAndIsSavedLikeTyping) {
             EXPECT_FALSE(frmMain->txtMLFields[box]->hasFocus()) << box; // it has moved on
         }
         ClickRow(0);
-        EXPECT_EQ(Stored("SELECT FieldValue FROM MultiLangFields WHERE ItemId='10002' AND "
-                         "LangCode='EN' ORDER BY FieldDefId"),
-                  "Mesa|De roble|")
-            << afterASaveThatStayed;
+        EXPECT_EQ(TextsOf(10002, "EN"), "Mesa|De roble|") << afterASaveThatStayed;
     }
 }
 

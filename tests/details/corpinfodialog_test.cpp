@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "store/corpinfo.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 #include "tests/support/templatebuilder.h"
 #include "tests/support/testpictures.h"
@@ -28,13 +29,6 @@ protected:
     static void Open(int page, const std::function<void()>& act) {
         WhenDialogOpens(act);
         ShowCorpInfo(page);
-    }
-
-    QString WrittenPicture(const QString& name, const QByteArray& bytes) const {
-        QFile file(program.Folder() + name);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
     }
 
     static QString Texts(const QString& lang) {
@@ -111,8 +105,9 @@ TEST_F(CorpInfoDialog, TheRegistrysTextIsReplacedInTurn) {
 }
 
 TEST_F(CorpInfoDialog, PicturesAreFinalAtOnceWhateverTheirFormat) {
-    const QString source = WrittenPicture("mi logo.jpg", MakeJpeg(FourFields({80, 60})));
-    const QString damaged = WrittenPicture("roto.jpg", "hola");
+    const QString source =
+        WriteFile(program.Folder() + "mi logo.jpg", MakeJpeg(FourFields({80, 60})));
+    const QString damaged = WriteFile(program.Folder() + "roto.jpg", "hola");
     BoxAnswers boxes;
     Open(kGeneral, [&] {
         {
@@ -139,16 +134,8 @@ TEST_F(CorpInfoDialog, PicturesAreFinalAtOnceWhateverTheirFormat) {
     EXPECT_EQ(Stored("SELECT CorpLogo FROM CorpInfo"), "");
 }
 
-// The desktop's handler is asked through a stand-in that notes what it is given.
 TEST_F(CorpInfoDialog, APreviewSavesFirstAndIsOpenedOrTellsThatItCannotBe) {
-    const QTemporaryDir tools;
-    QFile handler(tools.filePath("xdg-open"));
-    ASSERT_TRUE(handler.open(QIODevice::WriteOnly));
-    handler.write("#!/bin/sh\nprintf '%s' \"$1\" > \"$0.seen\"\n");
-    handler.close();
-    handler.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", tools.path().toUtf8() + ':' + path);
+    const DesktopTools tools({"xdg-open"});
     SetTemplate(TemplateBuilder()
                     .Add(8, "quienes.html", "", "<p>%%CORPINFO.NAME%%</p>")
                     .Add(21, "ES|EN", "", "")
@@ -161,14 +148,9 @@ TEST_F(CorpInfoDialog, APreviewSavesFirstAndIsOpenedOrTellsThatItCannotBe) {
         EXPECT_FALSE(frmCorpInfo->cmdCancel->isEnabled());
         Click(frmCorpInfo->cmdPreview[1]); // the design has no such page
     });
-    qputenv("PATH", path);
     EXPECT_EQ(Stored("SELECT Name FROM CorpInfo"), "Encina");
-    QFile seen(handler.fileName() + ".seen");
-    ASSERT_TRUE(seen.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(seen.readAll()), program.Folder() + "temp/quienes.html");
-    QFile page(program.Folder() + "temp/quienes.html");
-    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(page.readAll().endsWith("<p>Encina</p>"));
+    EXPECT_EQ(tools.Said("xdg-open"), (program.Folder() + "temp/quienes.html").toUtf8());
+    EXPECT_TRUE(tools.Got("xdg-open").endsWith("<p>Encina</p>"));
     ASSERT_EQ(boxes.seen.size(), 1U);
     EXPECT_EQ(boxes.seen[0].title, "Vista Previa de la sección Sección 'Cómo llegar'");
     EXPECT_EQ(boxes.seen[0].text,

@@ -7,10 +7,10 @@
 #include "platform/controls.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 #include "tests/support/testpictures.h"
 
-#include <QFile>
 #include <QScreen>
 #include <gtest/gtest.h>
 
@@ -21,12 +21,6 @@ constexpr char kThreePictures[] = R"(
     picture; 10001; 2; 1
     picture; 10001; 3; 2)";
 
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 QByteArray Jpeg() {
     return MakeJpeg(FourFields(QSize(64, 48)));
 }
@@ -36,7 +30,7 @@ protected:
     explicit Album(const QString& pictures = kThreePictures)
         : program(QString(kSmallCatalogue) + pictures) {
         for (int number = 1; number <= 3; ++number) {
-            Write(program.Folder() + QString("Pic%1.dat").arg(1000100 + number), Jpeg());
+            WriteFile(program.Folder() + QString("Pic%1.dat").arg(1000100 + number), Jpeg());
         }
     }
 
@@ -135,7 +129,7 @@ TEST_F(Album, DroppedFilesAreJudgedByTheirEndingAndTheLimitStopsThem) {
         BoxAnswers answers;
         QStringList files = {program.Folder() + "notas.tiff"};
         for (const char* name : {"a.jpg", "b.JPEG", "c.jp", "d.jpg", "e.jpg", "f.jpg", "g.jpg"}) {
-            Write(program.Folder() + name, Jpeg());
+            WriteFile(program.Folder() + name, Jpeg());
             files += program.Folder() + name;
         }
         emit frmPictures->lblOleDropZone->FilesDropped(files);
@@ -147,8 +141,8 @@ TEST_F(Album, DroppedFilesAreJudgedByTheirEndingAndTheLimitStopsThem) {
 }
 
 TEST_F(Album, ADamagedPictureIsToldOnceAndStaysUntilItIsChanged) {
-    Write(program.Folder() + "Pic1000102.dat", "no es una foto");
-    Write(program.Folder() + "Pic1000103.dat", Jpeg() + QByteArray(2049 - Jpeg().size(), '\0'));
+    WriteFile(program.Folder() + "Pic1000102.dat", "no es una foto");
+    WriteFile(program.Folder() + "Pic1000103.dat", Jpeg() + QByteArray(2049 - Jpeg().size(), '\0'));
     BoxAnswers answers(QMessageBox::Yes);
     Open([&answers] {
         EXPECT_EQ(answers.seen.size(), 1U);
@@ -170,8 +164,7 @@ TEST_F(Album, AnAlbumThatCannotBeSavedIsLeftOnlyIfTheUserWants) {
     BoxAnswers answers(QMessageBox::Yes);
     Open([] {
         Type(frmPictures->txtMLFields[0], "Frente");
-        ChangeStore("CREATE TRIGGER refusal BEFORE UPDATE ON Pictures BEGIN SELECT "
-                    "RAISE(ABORT, 'refused'); END");
+        Refuse("UPDATE ON Pictures");
     });
     ASSERT_EQ(answers.seen.size(), 1U);
     EXPECT_TRUE(answers.Texts().endsWith("¿Desea salir sin guardarlos?"));

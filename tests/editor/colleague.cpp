@@ -28,6 +28,7 @@
 
 #include <QDir>
 #include <dlfcn.h>
+#include <functional>
 #include <iostream>
 #include <random>
 #include <string>
@@ -113,7 +114,7 @@ void Say(const QString& answer) {
 
 // Edits the title of one of the shared products: "ID TEXT" once that is in the store, "ID -" where
 // another user has it.
-void RandomEdits(unsigned seed, int count) {
+QString RandomEdits(unsigned seed, int count) {
     std::mt19937 random(seed);
     for (int edit = 0; edit < count; ++edit) {
         const QString id = QString::number(10001 + int(random() % kRandomProducts));
@@ -127,42 +128,26 @@ void RandomEdits(unsigned seed, int count) {
         const QString outcome = Save();
         Say(outcome == u"saved" ? id + ' ' + text : id + " ! " + outcome);
     }
+    return "done";
 }
 
-QString Obey(const QStringList& words) {
-    const QString rest = words.mid(1).join(u' ');
-    if (words[0] == u"select") {
-        return Select(rest);
-    }
-    if (words[0] == u"type") {
-        return TypeInto(words[1], words.mid(2).join(u' '));
-    }
-    if (words[0] == u"save") {
-        return Save();
-    }
-    if (words[0] == u"add") {
-        return Add();
-    }
-    if (words[0] == u"delete") {
-        return Delete();
-    }
-    if (words[0] == u"picture") {
-        return AddFile(rest);
-    }
-    if (words[0] == u"unpicture") {
-        return DeleteFile();
-    }
-    if (words[0] == u"compact") {
-        return Compact();
-    }
-    if (words[0] == u"arm") {
-        return Arm(rest.toInt());
-    }
-    if (words[0] == u"left") {
-        return QString::number(Killer<int (*)()>("KillerLeft")());
-    }
-    RandomEdits(words[1].toUInt(), words[2].toInt());
-    return "done";
+// The rest of the line is given as its words.
+QString Obey(const QString& order, const QStringList& words) {
+    const QString rest = words.join(u' ');
+    const QHash<QString, std::function<QString()>> orders = {
+        {"select", [&] { return Select(rest); }},
+        {"type", [&] { return TypeInto(words[0], words.mid(1).join(u' ')); }},
+        {"save", Save},
+        {"add", Add},
+        {"delete", Delete},
+        {"picture", [&] { return AddFile(rest); }},
+        {"unpicture", DeleteFile},
+        {"compact", Compact},
+        {"arm", [&] { return Arm(rest.toInt()); }},
+        {"left", [] { return QString::number(Killer<int (*)()>("KillerLeft")()); }},
+        {"random", [&] { return RandomEdits(words[0].toUInt(), words[1].toInt()); }},
+    };
+    return orders[order]();
 }
 
 } // namespace
@@ -184,7 +169,8 @@ int main(int argc, char** argv) {
     std::string line;
     while (std::getline(std::cin, line)) {
         try {
-            Say(Obey(QString::fromStdString(line).split(u' ')));
+            const QStringList words = QString::fromStdString(line).split(u' ');
+            Say(Obey(words[0], words.mid(1)));
         } catch (const StoreError& error) {
             Say("failed " + error.Text());
         }

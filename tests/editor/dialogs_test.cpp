@@ -33,14 +33,6 @@ void Fill(const Search& search) {
     Click(frmSearch->cmdSearch);
 }
 
-QString References() {
-    QStringList references;
-    for (const QString& row : ListText().split('|', Qt::SkipEmptyParts)) {
-        references += row.section(';', 0, 0);
-    }
-    return references.join(' ');
-}
-
 } // namespace
 
 TEST(Search, ZonesWordsAndPricesNarrowTheListUntilTheButtonIsReleased) {

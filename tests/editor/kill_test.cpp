@@ -9,6 +9,7 @@
 #include "platform/controls.h"
 #include "store/store.h"
 #include "tests/editor/colleagueprocess.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 
 #include <QFile>
@@ -55,9 +56,7 @@ public:
         CloseStore();
         for (const char* name :
              {"Pic1000301.dat", "Pic1000302.dat", "Pic1000303.dat", "Foto.jpg"}) {
-            QFile file(Folder() + name);
-            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write(QByteArray(name));
+            WriteFile(Folder() + name, name);
         }
         colleague = std::make_unique<ColleagueProcess>(Folder(), true);
         for (const QString& line : action.before) {
@@ -99,10 +98,8 @@ std::set<int> PointsOf(int writes) {
 // Fields, texts and the product itself are written in this order: a later one is never new while an
 // earlier one is old.
 void CheckSave() {
-    const QString field =
-        Stored("SELECT FieldValue FROM ProductFields WHERE ProductId=10001 AND FieldDefId=0");
-    const QString title = Stored("SELECT FieldValue FROM MultiLangFields WHERE ItemId='10001' AND "
-                                 "FieldDefId=0 AND LangCode='ES'");
+    const QString field = FieldsOf(10001).section(u'|', 0, 0);
+    const QString title = TextsOf(10001).section(u'|', 0, 0);
     const QString price = Stored("SELECT PriceAmount FROM Products WHERE ProductId=10001");
     const QString state = field + ' ' + title + ' ' + price;
     const QStringList possible = {"antes antes 1", "después antes 1", "después después 1",

@@ -18,24 +18,19 @@ constexpr int kProducts = 12;                     // that they meet at
 constexpr char kEditsVariable[] = "RANDOM_EDITS"; // more of them where it is set
 
 QString Title(int id) {
-    return Stored("SELECT FieldValue FROM MultiLangFields WHERE FieldDefId=0 AND LangCode='ES' AND "
-                  "ItemId='" +
-                  QString::number(id) + "'");
+    return TextsOf(id).section(u'|', 0, 0);
 }
 
 QString Colour(int id) {
-    return Stored("SELECT FieldValue FROM ProductFields WHERE FieldDefId=0 AND ProductId=" +
-                  QString::number(id));
+    return FieldsOf(id).section(u'|', 0, 0);
 }
 
 QString ManyProducts() {
     QString rows = "def; 0; T; ESColor\n";
     for (int i = 0; i < kProducts; ++i) {
-        const QString id = QString::number(10001 + i);
-        rows += QString("product; %1; R-%1; 10; 0; ; 2024-01-01T10:00:00\nfield; %1; 0; 0.0\n"
-                        "text; Products; %1; ES; 0; 0.0\ntext; Products; %1; ES; 1\n"
-                        "text; Products; %1; ES; 2\n")
-                    .arg(id);
+        rows += QString("product; %1; R-%1; 10; 0; ; 2024-01-01T10:00:00\n"
+                        "fields; %1; 0.0\ntexts; Products; %1; ES; 0.0; NULL; NULL\n")
+                    .arg(10001 + i);
     }
     return rows;
 }
@@ -100,9 +95,7 @@ TEST(TwoUsers, TypingAfterASaveThatStayedTakesTheRowAgainWithTheOthersChanges) {
     EXPECT_EQ(ControlText(frmMain->txtMLFields[0]), "Sillita");
     EXPECT_EQ(colleague.Ask("select 10001"), "readonly"); // it is ours again
     ClickRow(2);
-    EXPECT_EQ(Stored("SELECT FieldValue FROM MultiLangFields WHERE ItemId='10001' AND "
-                     "LangCode='ES' ORDER BY FieldDefId"),
-              "Sillita|De nogal|Asientos");
+    EXPECT_EQ(TextsOf(10001), "Sillita|De nogal|Asientos");
     EXPECT_EQ(Colour(10001), "ocre");
 }
 

@@ -4,6 +4,7 @@
 #include "platform/storeengine.h"
 #include "store/store.h"
 #include "tests/support/catalogue.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,17 +14,6 @@
 namespace {
 
 constexpr int kLimit = 10000; // milliseconds for another process to answer
-
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray Read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
 
 QString Products() {
     RunQuery(kCursorScratch, "SELECT count(*) FROM Products");
@@ -54,12 +44,12 @@ constexpr char kOne[] = "product; 10001; A-1; 10; 0; Norte; 2024-01-01T10:00:00"
 TEST(Maintenance, CompactingKeepsTheOldFileAndReplacesWhatEarlierRunsLeft) {
     TestCatalogue catalogue(kOne);
     const QString store = catalogue.Folder() + DBname;
-    Write(store + ".tmp", "stale");
-    Write(store + ".bak", "older");
+    WriteFile(store + ".tmp", "stale");
+    WriteFile(store + ".bak", "older");
     CloseStore();
-    const QByteArray before = Read(store);
+    const QByteArray before = ReadFile(store);
     EXPECT_EQ(CompactStore(store), 0);
-    EXPECT_EQ(Read(store + ".bak"), before);
+    EXPECT_EQ(ReadFile(store + ".bak"), before);
     EXPECT_FALSE(QFile::exists(store + ".tmp"));
     ASSERT_EQ(OpenStore(), 0);
     EXPECT_EQ(Products(), "1");
@@ -69,13 +59,14 @@ TEST(Maintenance, ADamagedStoreIsLeftAsItIsWithItsBackup) {
     const TestCatalogue catalogue(kOne);
     CloseStore();
     const QString store = catalogue.Folder() + DBname;
-    QByteArray damaged = Read(store);
+    QByteArray damaged = ReadFile(store);
     damaged.replace(4096, damaged.size() - 4096, QByteArray(damaged.size() - 4096, '\x5a'));
-    Write(store, damaged);
-    Write(store + ".bak", "older");
+    WriteFile(store, damaged);
+    WriteFile(store + ".bak", "older");
     EXPECT_NE(CompactStore(store), 0);
-    EXPECT_EQ(Read(store), damaged);
-    EXPECT_EQ(Read(store + ".bak"), "older");
+    EXPECT_EQ(ReadFile(store), damaged);
+    EXPECT_EQ(ReadFile(store + ".bak"), "older");
+    EXPECT_FALSE(QFile::exists(store + ".tmp"));
     EXPECT_NE(CompactStore(catalogue.Folder() + "otra.zdb"), 0);
 }
 
@@ -89,33 +80,17 @@ TEST(Maintenance, ACompactionCutOffBeforeItsLastStepIsEndedWhenTheStoreIsOpened)
     EXPECT_EQ(Products(), "1");
 }
 
-TEST(Maintenance, MovingTakesEveryFileAndTheSettingsFollow) {
-    const TestCatalogue catalogue(kOne);
-    CloseStore();
-    const QTemporaryDir target;
-    Write(DBpath + "Pic1000101.dat", "foto");
-    Write(DBpath + "Default.zdt", "diseño");
-    const QString from = DBpath;
-    EXPECT_EQ(MoveStoreFiles(target.path()), MoveResult::Moved);
-    EXPECT_EQ(DBpath, target.path() + '/');
-    EXPECT_EQ(TemplPath, target.path() + "/Default.zdt");
-    EXPECT_EQ(Read(DBpath + "Pic1000101.dat"), "foto");
-    EXPECT_TRUE(QDir(from).isEmpty(QDir::Files | QDir::Hidden));
-    ASSERT_EQ(OpenStore(), 0);
-    EXPECT_EQ(Products(), "1");
-}
-
 TEST(Maintenance, BothAreRefusedWhileAnotherProcessHasTheStoreOpen) {
     const TestCatalogue catalogue(kOne);
     CloseStore();
     const Colleague colleague(catalogue.Folder());
     const QString store = catalogue.Folder() + DBname;
-    const QByteArray before = Read(store);
+    const QByteArray before = ReadFile(store);
     const QStringList files = QDir(DBpath).entryList(QDir::Files);
     const QTemporaryDir target;
     EXPECT_EQ(CompactStore(store), kErrBusy);
     EXPECT_EQ(MoveStoreFiles(target.path()), MoveResult::InUse);
-    EXPECT_EQ(Read(store), before);
+    EXPECT_EQ(ReadFile(store), before);
     EXPECT_EQ(QDir(DBpath).entryList(QDir::Files), files);
     EXPECT_EQ(DBpath, catalogue.Folder());
 }

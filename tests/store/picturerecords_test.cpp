@@ -9,6 +9,7 @@
 #include "store/langvalues.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 
 #include <QFile>
@@ -21,10 +22,7 @@ protected:
     PictureRecords() : album(frmMain) { LoadPictures(); }
 
     QString SourceFile(const QByteArray& bytes) {
-        QFile file(sources.filePath(QString("Foto %1.jpg").arg(++made)));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
+        return WriteFile(sources.filePath(QString("Foto %1.jpg").arg(++made)), bytes);
     }
 
     void Add(const QByteArray& bytes) {
@@ -37,9 +35,8 @@ protected:
         for (const QString& row :
              Stored("SELECT OrderInForm, PictureId, PicturePath FROM Pictures ORDER BY 1")
                  .split(u'|', Qt::SkipEmptyParts)) {
-            QFile file(program.Folder() + row.section(u';', 2));
-            rows += row.section(u';', 0, 1) + u';' +
-                    (file.open(QIODevice::ReadOnly) ? file.readAll() : "missing");
+            rows +=
+                row.section(u';', 0, 1) + u';' + ReadFile(program.Folder() + row.section(u';', 2));
         }
         return rows.join(u'|');
     }
@@ -64,9 +61,7 @@ TEST_F(PictureRecords, AddedOnesAreCopiedAndNumberedFromOneAndTheProductIsStampe
     SetControlText(frmPictures->txtMLFields[0], "Vista");
     Add("dos");
     EXPECT_EQ(Pictures(), "0;1000101;uno|1;1000102;dos");
-    EXPECT_EQ(Stored("SELECT FieldValue FROM MultiLangFields WHERE ItemId='1000101' ORDER BY "
-                     "FieldDefId"),
-              "Vista|");
+    EXPECT_EQ(TextsOf(1000101), "Vista|");
     EXPECT_NE(frmMain->txtLastUpdate->text(), "01/01/2024 10:00:00");
 }
 
@@ -123,8 +118,7 @@ TEST_F(PictureRecords, ADeleteThatTheStoreRefusesKeepsRowTextsAndFile) {
         Add(content);
     }
     Show(1);
-    ChangeStore("CREATE TRIGGER refusal BEFORE UPDATE ON Pictures "
-                "BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    Refuse("UPDATE ON Pictures");
     EXPECT_THROW(DeletePicture(), StoreError);
     EXPECT_EQ(Pictures(), "0;1000101;uno|1;1000102;dos");
     EXPECT_EQ(frmPictures->txtPictureId->text(), "1000101");

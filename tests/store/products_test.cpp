@@ -9,6 +9,7 @@
 #include "store/langvalues.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 
 #include <QFile>
@@ -20,16 +21,6 @@ QString Product(int id) {
     return Stored("SELECT ProductRef, PriceAmount, IsNew, SaleZone, LastUpdate FROM Products WHERE "
                   "ProductId=" +
                   QString::number(id));
-}
-
-QString FieldsOf(int id) {
-    return Stored("SELECT FieldValue FROM ProductFields WHERE ProductId=" + QString::number(id) +
-                  " ORDER BY FieldDefId");
-}
-
-QString TextsOf(const QString& item, const QString& lang) {
-    return Stored("SELECT FieldValue FROM MultiLangFields WHERE ItemId='" + item +
-                  "' AND LangCode='" + lang + "' ORDER BY FieldDefId");
 }
 
 QString RowsOf(const QString& id) {
@@ -84,7 +75,7 @@ TEST(Products, SavingWritesFieldsThenTextsThenTheProduct) {
     ClickRow(1);
     EXPECT_EQ(Stored("SELECT What FROM Log"), "F|T|P");
     EXPECT_EQ(FieldsOf(10001), " rosa |0|0|5|frágil");
-    EXPECT_EQ(TextsOf("10001", "ES"), "Sillón|De pino|Asientos");
+    EXPECT_EQ(TextsOf(10001), "Sillón|De pino|Asientos");
     const QStringList row = Product(10001).split(u';');
     EXPECT_EQ(row[0], "A-9");
     EXPECT_LE(ReadDate(row[4])->secsTo(Now()), 60);
@@ -125,9 +116,9 @@ TEST(Products, ATextWithBlanksIsShownAndSavedTrimmedAndANullStaysUntilASave) {
         "UPDATE MultiLangFields SET FieldValue=NULL WHERE ItemId='10003' AND FieldDefId=1");
     ClickRow(1);
     ClickRow(2);
-    EXPECT_EQ(TextsOf("10002", "ES"), "Mesa|De roble|Mesas");
+    EXPECT_EQ(TextsOf(10002), "Mesa|De roble|Mesas");
     ClickRow(0);
-    EXPECT_EQ(TextsOf("10003", "ES"), "Banco|NULL|Asientos");
+    EXPECT_EQ(TextsOf(10003), "Banco|NULL|Asientos");
 }
 
 TEST(Products, TheFirstOneIsNumber10001AndATakenReferenceIsReplaced) {
@@ -158,7 +149,7 @@ TEST(Products, ANewOneIsStoredAtOnceWithDefaultsAndNothingOfAnotherBehindItsNumb
     EXPECT_TRUE(frmMain->txtMLFields[0]->hasFocus());
     TypeOn(frmMain->txtMLFields[0], "Cama");
     ClickRow(0);
-    EXPECT_EQ(TextsOf("10004", "ES"), "Cama||");
+    EXPECT_EQ(TextsOf(10004), "Cama||");
     EXPECT_EQ(frmMain->txtProductRef->text(), "A-1"); // the clicked one, found again by the refill
     EXPECT_FALSE(NewProductPending);
 }
@@ -168,9 +159,7 @@ TEST(Products, DeletingLeavesNoRowTextOrFileAndIsRememberedForThePortal) {
         const TestProgram program(QString(kSmallCatalogue) +
                                   "\npicture; 10001; 1; 0\n"
                                   "text; Pictures; 1000101; ES; 0; Vista");
-        QFile file(program.Folder() + "Pic1000101.dat");
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.close();
+        const QString file = WriteFile(program.Folder() + "Pic1000101.dat", {});
         ClickRow(1);
         ClickRow(0);
         if (afterASaveThatStayed) {
@@ -183,18 +172,10 @@ TEST(Products, DeletingLeavesNoRowTextOrFileAndIsRememberedForThePortal) {
         EXPECT_EQ(answers.Texts(),
                   "¿Confirma que desea eliminar todos los datos de este Producto?");
         EXPECT_EQ(RowsOf("10001"), "0;0;0;0") << afterASaveThatStayed;
-        EXPECT_FALSE(file.exists());
+        EXPECT_FALSE(QFile::exists(file));
         EXPECT_TRUE(DeletedItems.contains("P10001"));
         EXPECT_EQ(frmMain->txtProductRef->text(), "B-2");
     }
-}
-
-TEST(Products, TheOldestFeaturedOneIsDemotedAndStamped) {
-    const TestProgram program;
-    ChangeStore("UPDATE Products SET IsNew=1");
-    DemoteOldestFeatured();
-    EXPECT_EQ(Stored("SELECT ProductId FROM Products WHERE IsNew=0"), "10001");
-    EXPECT_FALSE(Product(10001).endsWith("2024-01-01T10:00:00"));
 }
 
 TEST(LangValues, ALanguageLookedAtGetsEmptyRowsAndTypingInItIsKept) {
@@ -203,14 +184,14 @@ TEST(LangValues, ALanguageLookedAtGetsEmptyRowsAndTypingInItIsKept) {
     Click(frmMain->optLang[1]);
     EXPECT_EQ(ControlText(frmMain->txtMLFields[0]), "");
     Click(frmMain->optLang[0]);
-    EXPECT_EQ(TextsOf("10002", "EN"), "||");
+    EXPECT_EQ(TextsOf(10002, "EN"), "||");
     ClickRow(0);
     EXPECT_TRUE(Product(10002).endsWith("2024-01-02T10:00:00")); // nothing to stamp
     Click(frmMain->optLang[1]);
     Type(frmMain->txtMLFields[0], "Stool");
     EXPECT_EQ(ListText().section(u'|', 0, 0), "A-1;Silla;11"); // the list shows the main language
     Click(frmMain->optLang[0]);
-    EXPECT_EQ(TextsOf("10001", "EN"), "Stool|Pine|Seats");
+    EXPECT_EQ(TextsOf(10001, "EN"), "Stool|Pine|Seats");
     EXPECT_EQ(ControlText(frmMain->txtMLFields[0]), "Silla");
     ClickRow(1);
     EXPECT_FALSE(Product(10001).endsWith("2024-01-01T10:00:00"));

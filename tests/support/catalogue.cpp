@@ -5,8 +5,8 @@
 #include "store/corpinfo.h"
 #include "store/fielddefs.h"
 #include "store/store.h"
+#include "tests/support/files.h"
 
-#include <QFile>
 #include <QHash>
 #include <gtest/gtest.h>
 
@@ -37,12 +37,28 @@ void AddDerived(const QString& kind, QStringList& values) {
     }
 }
 
+QString RowStatement(const QString& line);
+
+// A row for each value behind the first `shared` ones, with its place as number of the field.
+QString SeveralStatements(const QString& kind, const QStringList& values, int shared) {
+    QString statements;
+    for (int place = 0; place + shared < values.size(); ++place) {
+        QStringList row = QStringList{kind} + values.mid(0, shared);
+        row += {QString::number(place), values[shared + place]};
+        statements += RowStatement(row.join(u';'));
+    }
+    return statements;
+}
+
 QString RowStatement(const QString& line) {
     QStringList values;
     for (const QString& value : line.split(u';')) {
         values.append(value.trimmed());
     }
     const QString kind = values.takeFirst();
+    if (kind == u"fields" || kind == u"texts") {
+        return SeveralStatements(kind.chopped(1), values, kind == u"fields" ? 1 : 3);
+    }
     if (kind == u"corp") {
         return "UPDATE CorpInfo SET " + values[0] + " = " + Literal(values[1]) + ';';
     }
@@ -59,19 +75,13 @@ QString RowStatement(const QString& line) {
     return "INSERT INTO " + target + " VALUES (" + values.join(u',') + ");";
 }
 
-QString Schema() {
-    QFile file(SCHEMA_FILE);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << SCHEMA_FILE;
-    return QString::fromUtf8(file.readAll());
-}
-
 } // namespace
 
 TestCatalogue::TestCatalogue(const QString& rows) {
     LoadSettings();
     SetStoreFolder(Folder());
     const auto connection = StoreConnection::Create(Folder() + DBname);
-    connection->Execute(Schema());
+    connection->Execute(QString::fromUtf8(ReadFile(SCHEMA_FILE)));
     QString statements = "INSERT INTO CorpInfo (Name) VALUES ('');";
     for (const QString& line : rows.split(u'\n')) {
         if (!line.trimmed().isEmpty()) {

@@ -6,10 +6,12 @@
 //   def; FieldDefId; Type; Caption; Choices; DefaultValue
 //   product; ProductId; ProductRef; PriceAmount; IsNew; SaleZone; LastUpdate
 //   field; ProductId; FieldDefId; FieldValue
+//   fields; ProductId; value of field 0; of field 1; ...
 //   picture; ProductId; ProdPictureId; OrderInForm
 //   language; LangCode; Caption; Priority
 //   textdef; TableName; FieldDefId; FieldName
 //   text; TableName; ItemId; LangCode; FieldDefId; FieldValue
+//   texts; TableName; ItemId; LangCode; value of text 0; of text 1; ...
 //   corp; column of the company's row; value
 #pragma once
 

@@ -14,9 +14,9 @@
 #include "store/fielddefs.h"
 #include "store/languages.h"
 #include "store/store.h"
+#include "tests/support/files.h"
 
 #include <QDialog>
-#include <QFile>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QTest>
@@ -33,33 +33,13 @@ const char kSmallCatalogue[] = R"(
     product; 10001; A-1; 10.5; 0; Norte; 2024-01-01T10:00:00
     product; 10002; B-2; 2000; 1; Sur; 2024-01-02T10:00:00
     product; 10003; C-3; 30; 2; L'Eixample; 2024-01-03T10:00:00
-    field; 10001; 0; rojo
-    field; 10001; 1; 0
-    field; 10001; 2; 0
-    field; 10001; 3; 5
-    field; 10001; 4; frágil
-    field; 10002; 0; azul
-    field; 10002; 1; 1
-    field; 10002; 2; 1
-    field; 10002; 3; 6
-    field; 10002; 4; pesado
-    field; 10003; 0; gris
-    field; 10003; 1; 0
-    field; 10003; 2; 0
-    field; 10003; 3; 7
-    field; 10003; 4; caro
-    text; Products; 10001; ES; 0; Silla
-    text; Products; 10001; ES; 1; De pino
-    text; Products; 10001; ES; 2; Asientos
-    text; Products; 10001; EN; 0; Chair
-    text; Products; 10001; EN; 1; Pine
-    text; Products; 10001; EN; 2; Seats
-    text; Products; 10002; ES; 0; Mesa
-    text; Products; 10002; ES; 1; De roble
-    text; Products; 10002; ES; 2; Mesas
-    text; Products; 10003; ES; 0; Banco
-    text; Products; 10003; ES; 1; De haya
-    text; Products; 10003; ES; 2; Asientos)";
+    fields; 10001; rojo; 0; 0; 5; frágil
+    fields; 10002; azul; 1; 1; 6; pesado
+    fields; 10003; gris; 0; 0; 7; caro
+    texts; Products; 10001; ES; Silla; De pino; Asientos
+    texts; Products; 10001; EN; Chair; Pine; Seats
+    texts; Products; 10002; ES; Mesa; De roble; Mesas
+    texts; Products; 10003; ES; Banco; De haya; Asientos)";
 
 namespace {
 
@@ -79,9 +59,7 @@ QByteArray AgencyFile() {
 void ChooseTrade(Trade trade) {
     QTemporaryDir folder;
     if (trade == Trade::RealEstate) {
-        QFile file(folder.filePath("sector.dat"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(AgencyFile());
+        WriteFile(folder.filePath("sector.dat"), AgencyFile());
     }
     LoadFlavour(folder.path() + u'/');
 }
@@ -212,6 +190,14 @@ QString ListText() {
     return rows.join(u'|');
 }
 
+QString References() {
+    QStringList references;
+    for (int row = 0; row < frmMain->productList->RowCount(); ++row) {
+        references += frmMain->productList->Text(row, 0);
+    }
+    return references.join(u' ');
+}
+
 QString Stored(const QString& statement) {
     Recordset cursor;
     cursor.SetConnection(adcData[kCursorScratch].Connection());
@@ -228,6 +214,18 @@ QString Stored(const QString& statement) {
     return rows.join(u'|');
 }
 
+QString FieldsOf(int product) {
+    return Stored("SELECT FieldValue FROM ProductFields WHERE ProductId=" +
+                  QString::number(product) + " ORDER BY FieldDefId");
+}
+
+QString TextsOf(int item, const QString& lang) {
+    return Stored(QString("SELECT FieldValue FROM MultiLangFields WHERE ItemId='%1' AND "
+                          "LangCode='%2' ORDER BY FieldDefId")
+                      .arg(item)
+                      .arg(lang));
+}
+
 QString StoreCheck() {
     Statement check(adcData[kCursorScratch].Connection()->Handle(), "PRAGMA integrity_check");
     return check.Step() ? CellText(check.Column(0)) : QStringLiteral("no answer");
@@ -235,6 +233,15 @@ QString StoreCheck() {
 
 void ChangeStore(const QString& statements) {
     adcData[kCursorScratch].Connection()->Execute(statements);
+}
+
+void Refuse(const QString& change) {
+    ChangeStore("CREATE TRIGGER refusal BEFORE " + change +
+                " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+}
+
+void Permit() {
+    ChangeStore("DROP TRIGGER refusal");
 }
 
 void WhenDialogOpens(const std::function<void()>& act) {

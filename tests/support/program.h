@@ -67,14 +67,25 @@ void ClickTool(const QString& key);
 // The list's rows, columns joined by ";", rows by "|".
 QString ListText();
 
+// The list's references, joined by blanks.
+QString References();
+
 // What a statement finds in the store now: fields joined by ";", rows by "|"; Null is "NULL".
 QString Stored(const QString& statement);
+
+// Those of a product's fields, and of the texts of a product or a picture, in their order.
+QString FieldsOf(int product);
+QString TextsOf(int item, const QString& lang = "ES");
 
 // The engine's own check of the whole store: "ok" or what it found.
 QString StoreCheck();
 
 // Changes the store by the engine's own SQL, past the program.
 void ChangeStore(const QString& statements);
+
+// From here on the store refuses a kind of change ("UPDATE ON Products"), until it is permitted.
+void Refuse(const QString& change);
+void Permit();
 
 // Once, as soon as a dialog is on screen, `act` runs, and the dialog is closed if it is still open.
 void WhenDialogOpens(const std::function<void()>& act);
