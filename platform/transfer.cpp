@@ -198,12 +198,12 @@ void TransferClient::Finish(int curlCode) {
         Report({kStateDisconnecting, kStateDisconnected, kStateReceived, kStateCompleted});
         return;
     }
-    if (curlCode == CURLE_OK) {
+    const QByteArray reply = request->words.Reply();
+    if (curlCode == CURLE_OK || (curlCode == kUploadNotConfirmed && reply.startsWith('2'))) {
         folder = changingFolder ? newFolder : folder;
         Complete();
         return;
     }
-    const QByteArray reply = request->words.Reply();
     const int number = FailureNumber(curlCode);
     if (!request->cutReason.isEmpty()) {
         Fail(kErrServerReply, FromAnsi(request->cutReason));

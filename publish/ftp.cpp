@@ -16,10 +16,10 @@
 
 int FTPLastState = 0;
 QString FTPLastError;
+int FTPRequestTimeout = 20;
 
 namespace {
 
-constexpr int kRequestTimeout = 20; // seconds
 constexpr char kAnonymous[] = "anonymous";
 constexpr char kStagingFile[] = "kpfftp.tmp"; // in the store's folder
 constexpr int kCurrentTask = 0;               // the bar of the task now running
@@ -33,7 +33,7 @@ void OnFTPStateChanged(int state) {
     }
 }
 
-// The box for whatever fails outside the server's own answers.
+// The box for settings that can't be a server, and whatever else fails outside its own answers.
 void TellConnectFailure() {
     MsgBox("Se produjo un error al intentar conectar con el servidor FTP '" + FTPServer +
                "'.\n Asegúrese que la configuración es la correcta.",
@@ -133,7 +133,7 @@ bool SendFiles(std::vector<OutputFile>& files) {
 bool ConnectFTP() {
     try {
         ineFTPSend().SetServer(FTPServer, FTPUser.isEmpty() ? kAnonymous : FTPUser, FTPPass);
-        ineFTPSend().SetRequestTimeout(kRequestTimeout);
+        ineFTPSend().SetRequestTimeout(FTPRequestTimeout);
         if (OpenRemoteFolder()) {
             return true;
         }

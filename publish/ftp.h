@@ -13,6 +13,10 @@ extern int FTPLastState; // last state the client reported; 12: the last command
                          // error. 0 at start
 extern QString FTPLastError; // the server's text of the last error reported
 
+// How long a connection, a reply or a transfer that stands still is waited for: seconds.
+// Process-wide, so that tests need not wait as long as users.
+extern int FTPRequestTimeout; // 20 at start
+
 // The entry point of a publish. False when the connection failed or the run was cancelled. A failed
 // transfer counts as success, since the workflow has always recorded it so: the step list alone
 // shows it.

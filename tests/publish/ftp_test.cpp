@@ -62,6 +62,9 @@ TEST_F(SendFilesTest, EachFileCostsTwoCommandsAndArrivesWhole) {
     for (int byte = 0; byte < 256; ++byte) {
         everyByte += static_cast<char>(byte);
     }
+    FtpFaults faults;
+    faults.replies = {{"226", "200 As good as 226"}};
+    server.Misbehave(faults);
     std::vector<OutputFile> files = {File("index.html  ", "<html>\r\n"),
                                      File("año \"1\" %41.html", everyByte), File("uno.js", "x"),
                                      File("   ", "without a name")};
@@ -213,7 +216,8 @@ TEST_F(SendFilesTest, ARefusedFileStopsTheSendingButCountsAsSent) {
         {{{"TYPE", "504 No"}}, "504 No (12003)."},
         {{{"EPSV", "500 What?"}, {"PASV", "425 No"}}, "425 No (12003)."},
         {{{"226", "552 Quota"}}, "552 Quota (12003)."},
-        {{{"226", "299 Hm"}}, "El servidor ha contestado de forma inesperada (12003)."},
+        {{{"EPSV", "502 No"}, {"PASV", "227 Wherever"}},
+         "El servidor ha contestado de forma inesperada (12003)."},
     };
     for (const auto& refusal : kCases) {
         FtpFaults faults;

@@ -220,8 +220,9 @@ void FtpSessions::EndUpload(QTcpSocket* session, QTcpSocket* transfer, const QBy
     if (faults.stall) {
         return;
     }
-    Say(session, "226 Got it");
+    Say(session, faults.replies.value("226", "226 Got it"));
     if (faults.closeAfterFile) {
+        session->write(faults.farewell);
         session->disconnectFromHost();
     }
 }

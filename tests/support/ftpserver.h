@@ -12,7 +12,8 @@
 
 // What the server does wrong.
 struct FtpFaults {
-    // The reply to a verb in place of the proper one, such as {"MKD", "550 No"}.
+    // The reply to a verb in place of the proper one, such as {"MKD", "550 No"}; to "" the
+    // greeting, to "226" the one behind an upload.
     QHash<QByteArray, QByteArray> replies;
 
     bool extendedPassive = true; // EPSV is known
@@ -20,6 +21,7 @@ struct FtpFaults {
     int roomFor = -1; // so many bytes of a file fit, then 452 on a cut data connection; -1: any
     bool refuseData = false;     // nothing listens on the passive port
     bool closeAfterFile = false; // the control connection is closed after each upload
+    QByteArray farewell;         // what is said before that
     bool stall = false;          // an upload gets no final reply
 };
 
