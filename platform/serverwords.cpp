@@ -27,15 +27,31 @@ void ServerWords::AddLine(const QByteArray& line) {
     if (line.startsWith(kStatusLine)) {
         headers.clear();
         lastHeader.clear();
+        unfinished.clear();
         return;
     }
-    // The last line of a reply has a blank behind its three digits, the others a "-".
-    if (line.size() > kReplyCodeLength && line[kReplyCodeLength] == ' ' &&
-        IsReplyCode(line.left(kReplyCodeLength))) {
-        reply = line.trimmed().left(kLongestReply);
-        return;
+    if (!AddToReply(line)) {
+        AddHeader(line);
     }
-    AddHeader(line);
+}
+
+// Whether it belongs to a reply. The last line of one has a blank behind its three digits, the
+// first of several a "-"; those between may look like anything.
+bool ServerWords::AddToReply(const QByteArray& line) {
+    const QByteArray code = line.left(kReplyCodeLength);
+    const char next = line.size() > kReplyCodeLength ? line[kReplyCodeLength] : '\0';
+    const bool numbered = IsReplyCode(code) && (next == ' ' || next == '-');
+    if (unfinished.isEmpty() && !numbered) {
+        return false;
+    }
+    const QByteArray before = unfinished.isEmpty() ? QByteArray() : unfinished + "\n";
+    const QByteArray text = (before + line.trimmed()).left(kLongestReply);
+    const bool last = next == ' ' && (unfinished.isEmpty() || unfinished.startsWith(code));
+    (last ? reply : unfinished) = text;
+    if (last) {
+        unfinished.clear();
+    }
+    return true;
 }
 
 // A line that starts with a blank goes on with the value of the one before.
@@ -66,10 +82,12 @@ bool IsRefusal(const QByteArray& reply) {
 
 QByteArray LastRefusal(const QByteArray& words) {
     QByteArray refusal;
+    ServerWords replies;
     for (const QByteArray& line : words.split('\n')) {
-        if (IsRefusal(line.trimmed())) {
-            refusal = line.trimmed().left(kLongestReply);
+        replies.AddLine(line);
+        for (const QByteArray& said : {replies.Reply(), replies.Unfinished()}) {
+            refusal = IsRefusal(said) ? said : refusal;
         }
     }
-    return refusal;
+    return refusal.trimmed();
 }

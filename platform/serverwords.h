@@ -17,13 +17,19 @@ public:
     // Value of a header without regard to case, the first one of that name; empty if absent.
     QString Header(const QString& name) const;
 
-    // The last complete FTP reply's last line, at most kLongestReply characters; empty if none.
+    // The last complete FTP reply, at most kLongestReply characters; empty if none. The lines of a
+    // long one, where some servers give their reason first, are separated by a line feed.
     const QByteArray& Reply() const { return reply; }
 
+    // What has come of a reply whose last line hasn't; empty if none.
+    const QByteArray& Unfinished() const { return unfinished; }
+
 private:
+    bool AddToReply(const QByteArray& line);
     void AddHeader(const QByteArray& line);
 
     QByteArray reply;
+    QByteArray unfinished;
     QHash<QByteArray, QByteArray> headers; // by lower-case name
     QByteArray lastHeader;                 // its name; empty if a second one of that name
 };
@@ -34,5 +40,6 @@ inline constexpr int kLongestReply = 400;
 // Whether a reply says no: its number is 400 or more.
 bool IsRefusal(const QByteArray& reply);
 
-// The last refusal among the lines of `words`; empty if there is none.
+// The last refusal among the replies in `words`, the last of which may lack its end; empty if there
+// is none.
 QByteArray LastRefusal(const QByteArray& words);

@@ -130,11 +130,13 @@ TEST_F(SendFilesTest, AFailedConnectionIsToldAndNothingIsRecorded) {
         QString told;
     } kCases[] = {
         {"/no/such/levels", {}, "550 No such folder"},
-        {"/web", {{"", "421-Full\r\n421 Too many"}}, "421 Too many"},
+        {"/web", {{"", "421-Full\r\n421 Too many"}}, "421-Full\n421 Too many"},
         {"/web", {{"USER", "530 Not you"}}, "530 Not you"},
         {"/web", {{"PASS", "530 Who?"}}, "530 Who?"},
         {"/web", {{"PASS", "421 Later"}}, "421 Later"},
-        {"/web", {{"CWD", "450 Busy"}, {"MKD", "550-No\r\n550 really"}}, "550 really"},
+        {"/web",
+         {{"CWD", "450 Busy"}, {"MKD", "550-No\r\n 551 \r\n550 really"}},
+         "550-No\n551\n550 really"},
         {"/web", {{"CWD", "550 "}, {"MKD", "550 "}}, "550"},
         {"/web",
          {{"CWD", "550 " + QByteArray(2000, 'x')}, {"MKD", "550 " + QByteArray(2000, 'x')}},

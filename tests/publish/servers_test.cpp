@@ -236,10 +236,12 @@ TEST_P(ServersTest, AFullDiskThereIsToldOnce) {
     Start(choices);
     const QRegularExpression told(
         "^Error al enviar el archivo\\S+\\. [45]\\d\\d[^|]* \\(12003\\).$");
+    const bool longReply = GetParam() == ServerKind::PureFTPd; // its reason stands first
     std::vector<OutputFile> files = {File("grande.jpg", QByteArray(3'000'000, 'j')),
                                      File("b.html", "two")};
     EXPECT_TRUE(Send("", files));
     EXPECT_TRUE(boxes.Texts().contains(told)) << boxes.Texts().toStdString();
+    EXPECT_EQ(boxes.Texts().contains("-Error during write to file\n"), longReply);
     EXPECT_FALSE(IsFileUnchanged(files[1].Name, files[1].Md5));
 
     files.clear();
