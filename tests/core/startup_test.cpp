@@ -155,7 +155,7 @@ TEST_F(Startup, AnotherStartBringsTheRunningProgramUpAndEnds) {
     EXPECT_EQ(NextLine(first) + '\n', kOpen);
     EXPECT_TRUE(NextLine(first).endsWith("minimised"));
     EXPECT_EQ(Run({}), "");
-    EXPECT_FALSE(NextLine(first).endsWith("minimised"));
+    EXPECT_TRUE(NextLine(first).endsWith("maximised"));
     first.kill();
     first.waitForFinished(kPatience);
 }
