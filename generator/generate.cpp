@@ -24,6 +24,7 @@
 #include "publish/steps.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 namespace {
 
@@ -108,6 +109,8 @@ bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot) {
     if (templatePath.isEmpty() || !QFileInfo(templatePath).isFile()) {
         return false;
     }
+    HoldTemplate(true);
+    const auto over = qScopeGuard([] { HoldTemplate(false); });
     SetAbortPublish(false);
     ResetSteps();
     StartSteps();
@@ -140,6 +143,9 @@ QString GeneratePreviewPage(const QString& request, const QString& templatePath,
     const QString productId = NthField(request, kRequestProduct, "|");
     const bool ofProduct = kind == u"PRODUCT" || kind == u"LAYOUT";
     if (!ofProduct && kind != u"FINDUS" && kind != u"ABOUTUS") {
+        return {};
+    }
+    if (TemplateHeld) { // the files are a run's, which a user's cancel must still reach
         return {};
     }
     SetAbortPublish(false);

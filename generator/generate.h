@@ -14,6 +14,6 @@ bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot);
 
 // One page in the scratch folder "temp/" under the store's folder, for looking at. `request` is
 // "PRODUCT|id", "LAYOUT|id", "FINDUS" or "ABOUTUS". The path of the page to show; empty when it
-// could not be made.
+// could not be made, as while the site itself is being generated or sent.
 QString GeneratePreviewPage(const QString& request, const QString& templatePath,
                             SiteSnapshot& snapshot);

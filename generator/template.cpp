@@ -111,6 +111,35 @@ TemplateHeaderRecord TemplateHeader;
 std::array<TemplateSectionRecord, kMaxSections> TemplateSections;
 std::array<QByteArray, kMaxSections> SectionBodies;
 std::vector<int> ImageSections;
+bool TemplateHeld = false;
+
+struct KeptTemplate::State {
+    TemplateHeaderRecord header;
+    std::array<TemplateSectionRecord, kMaxSections> sections;
+    std::array<QByteArray, kMaxSections> bodies;
+    std::vector<OutputFile> files; // moved, since the run stands inside a walk over them
+};
+
+KeptTemplate::KeptTemplate() {
+    if (TemplateHeld) {
+        state = std::make_unique<State>(
+            State{TemplateHeader, TemplateSections, SectionBodies, std::move(OutputFiles)});
+        OutputFiles.clear();
+    }
+}
+
+KeptTemplate::~KeptTemplate() {
+    if (state != nullptr) {
+        TemplateHeader = state->header;
+        TemplateSections = state->sections;
+        SectionBodies = state->bodies;
+        OutputFiles = std::move(state->files);
+    }
+}
+
+void HoldTemplate(bool held) {
+    TemplateHeld = held;
+}
 
 void ResetTemplateState() {
     TemplateHeader = {};

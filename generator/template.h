@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QString>
 #include <array>
+#include <memory>
 #include <vector>
 
 class QIODevice;
@@ -79,6 +80,24 @@ extern std::array<QByteArray, kMaxSections>
 // Every body becomes a single zero byte, header and table are emptied, OutputFiles is cleared.
 // Before each load.
 void ResetTemplateState();
+
+// A run works with the template and its files from HoldTemplate(true) to HoldTemplate(false), and
+// TemplateHeld says so. After a cancel the user has the screens back before the run has noticed:
+// while one lives, a KeptTemplate lets a screen load another one and gives the run its own back.
+extern bool TemplateHeld;
+void HoldTemplate(bool held);
+
+class KeptTemplate {
+public:
+    KeptTemplate();
+    ~KeptTemplate();
+    KeptTemplate(const KeptTemplate&) = delete;
+    KeptTemplate& operator=(const KeptTemplate&) = delete;
+
+private:
+    struct State;
+    std::unique_ptr<State> state; // null where no run needs it
+};
 
 // False after the required warning box if the three characters of the magic are not "KPF" or the
 // file is too short for a header.

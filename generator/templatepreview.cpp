@@ -61,6 +61,7 @@ void ShowColorSets(QWidget* stylesValue) {
 bool LoadTemplatePreview(const QString& path, QWidget* nameLabel, QWidget* descriptionLabel,
                          QWidget* maxEmphLabel, QWidget* stylesValue, QLabel* previewImage,
                          int previewNumber) {
+    const KeptTemplate kept;
     if (path.isEmpty() || !QFileInfo(path).isFile() || !LoadTemplateFile(path)) {
         return false;
     }

@@ -67,9 +67,13 @@ void ShowState(int step, StepState state) {
 }
 
 void ShowStep(int step, const QString& text) {
+    if (StepText(step) != text) {
+        states[step] = StepState::ToDo; // what the former step came to says nothing about this one
+    }
     frmMain->lblSteps[step]->setText(text);
     frmMain->lblSteps[step]->setVisible(!text.isEmpty());
     frmMain->imgStep[step]->setVisible(!text.isEmpty());
+    ShowState(step, states[step]);
 }
 
 } // namespace
@@ -89,7 +93,6 @@ void SetUpSteps() {
         ShowStep(3, portal);
         ShowStep(4, {});
     }
-    ResetSteps();
 }
 
 void ResetSteps() {
@@ -118,6 +121,16 @@ void StepDone() {
 
 void StepFailed() {
     ShowState(StepIndex, StepState::Failed);
+}
+
+void EndSteps() {
+    if (StepIndex < kStepCount && states[StepIndex] == StepState::Current) {
+        StepFailed();
+    }
+}
+
+bool AnyStepFailed() {
+    return std::find(states.begin(), states.end(), StepState::Failed) != states.end();
 }
 
 void SetProgress(int value, int maximum, int minimum, int bar) {

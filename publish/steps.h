@@ -9,8 +9,8 @@ inline constexpr int kStepCount = 5;
 // Index of the step now current in the visible list. Written here alone.
 extern int StepIndex;
 
-// Texts of the steps by storage method and flavour, all in the to-do state. Called when the page is
-// refreshed.
+// Texts of the steps by storage method and flavour. Called when the page is refreshed: the states
+// of the last run stay, unless its steps were others.
 void SetUpSteps();
 
 void ResetSteps(); // every step to do
@@ -18,6 +18,8 @@ void StartSteps(); // the first one current
 void NextStep();   // the current one done, the next one current
 void StepDone();   // the current one done, without moving
 void StepFailed(); // the current one failed, without moving
+void EndSteps();   // of a run that came to nothing: a step still current has failed
+bool AnyStepFailed();
 
 // Value and range of one bar: 0 the task now running, 1 all tasks (0 to 10).
 void SetProgress(int value, int maximum, int minimum, int bar);

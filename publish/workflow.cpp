@@ -26,12 +26,19 @@ constexpr int kOptionAll = 1;
 // start another one inside it.
 bool publishing = false;
 
+void ShowButton(int shown, int hidden) {
+    frmMain->cmdUpdateWeb[shown]->setVisible(true);
+    frmMain->cmdUpdateWeb[shown]->setFocus();
+    frmMain->cmdUpdateWeb[hidden]->setVisible(false);
+}
+
 void ShowBusy(bool busy) {
+    if (busy) {
+        ShowButton(kButtonCancel, kButtonUpdate);
+    }
     EnableWhileBusy("cmdUpdateWeb", !busy, frmMain);
-    frmMain->cmdUpdateWeb[kButtonUpdate]->setVisible(!busy);
-    frmMain->cmdUpdateWeb[kButtonCancel]->setVisible(busy);
     if (!busy) {
-        frmMain->cmdUpdateWeb[kButtonUpdate]->setFocus();
+        ShowButton(kButtonUpdate, kButtonCancel);
     }
 }
 
@@ -47,7 +54,8 @@ bool RunGeneration() {
     bool delivered = false;
     try {
         TakeSiteSnapshot(snapshot);
-        delivered = GenerateSite(TemplPath, snapshot);
+        // A cancel may have come since the press of the button: then nothing begins.
+        delivered = !AbortPublish && GenerateSite(TemplPath, snapshot);
     } catch (const std::exception& failure) {
         StepFailed();
         MsgBox(QString::fromUtf8(failure.what()), BoxIcon::Warning, AppName);
@@ -56,15 +64,32 @@ bool RunGeneration() {
     return delivered;
 }
 
+// What the page says until the next run; `before` where the run ended before its first step.
+QString OutcomeText(const QString& before) {
+    if (LastOutcome == PublishOutcome::Delivered) {
+        return AnyStepFailed() ? QStringLiteral("La actualización ha terminado con errores.")
+                               : "Última actualización: " + LastWebUpdate;
+    }
+    if (AbortPublish) {
+        return "Actualización cancelada.";
+    }
+    return AnyStepFailed() ? QStringLiteral("No se ha podido actualizar la web.") : before;
+}
+
 void Publish() {
-    publishing = true;
+    const QString before = frmMain->lblInfo->text();
+    frmMain->lblInfo->setText("Actualizando la web...");
+    frmMain->lblRemaining->clear();
     LastOutcome = RunGeneration() ? PublishOutcome::Delivered : PublishOutcome::NotDelivered;
     publishing = false;
     if (LastOutcome == PublishOutcome::Delivered) {
         RecordSuccess();
-        if (StorageMethod == kStorageLocal) {
-            ShowWebPreview(StoragePath + "index.html");
-        }
+    } else {
+        EndSteps();
+    }
+    frmMain->lblInfo->setText(OutcomeText(before));
+    if (LastOutcome == PublishOutcome::Delivered && StorageMethod == kStorageLocal) {
+        ShowWebPreview(StoragePath + "index.html");
     }
 }
 
@@ -85,6 +110,8 @@ void cmdUpdateWeb_Click(int index) {
         return;
     }
     if (index == kButtonUpdate) {
+        publishing = true;
+        SetAbortPublish(false);
         ShowBusy(true);
         chosen->setChecked(true);
         Publish();

@@ -95,6 +95,22 @@ void FtpServer::ForgetCommands() {
         sessions, [this] { sessions->record.commands.clear(); }, Qt::BlockingQueuedConnection);
 }
 
+void FtpServer::HangUp(const QByteArray& lastWords) {
+    QMetaObject::invokeMethod(
+        sessions,
+        [this, &lastWords] {
+            for (QTcpSocket* session : sessions->control->findChildren<QTcpSocket*>()) {
+                if (lastWords.isEmpty()) {
+                    ResetConnection(session);
+                } else {
+                    Say(session, lastWords);
+                    session->disconnectFromHost();
+                }
+            }
+        },
+        Qt::BlockingQueuedConnection);
+}
+
 void FtpSessions::Accept() {
     QTcpSocket* session = control->nextPendingConnection();
     ++record.sessions;

@@ -49,6 +49,9 @@ public:
     FtpRecord Record() const; // as of now
     void ForgetCommands();
 
+    // Closes every control connection with these words, or resets it without any.
+    void HangUp(const QByteArray& lastWords = {});
+
 private:
     QThread thread;
     FtpSessions* sessions; // lives in the thread
