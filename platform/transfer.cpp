@@ -73,9 +73,12 @@ void TransferClient::Execute(const QString& command) {
         Fail(kErrServerReply, "Ya hay una orden en curso");
         return;
     }
-    // Nobody waits for the good-bye, and a session that the server has ended needs none.
-    if (closing || (command == kClose && !request->Connected())) {
+    // Nobody waits for the good-bye. Where the server has ended the session, its last words must
+    // not pass for the answer to this command.
+    if (closing || !request->Connected()) {
+        const QString lastFolder = closing || command == kClose ? QString() : folder;
         Renew();
+        folder = lastFolder;
     }
     if (command == kClose && !request->Connected()) {
         Complete();

@@ -340,6 +340,25 @@ TEST_F(SendFilesTest, AServerThatClosesBetweenFilesGetsThemAll) {
     EXPECT_EQ(server.Record().sessions, 6); // none to say good-bye
 }
 
+// As after a check of the settings and a long pause, or a pause between two files.
+TEST_F(SendFilesTest, ASessionThatTheServerEndedForIdlenessIsOpenedAgain) {
+    for (const QByteArray lastWords : {"421 Timeout", ""}) {
+        std::vector<OutputFile> files = {File("a" + lastWords, "1"), File("b" + lastWords, "2")};
+        EXPECT_TRUE(ConnectFTP());
+        server.HangUp(lastWords);
+        QObject::connect(&ineFTPSend(), &TransferClient::StateChanged, &form, [&](int state) {
+            if (state == kStateCompleted && server.Record().files.contains("/web/a" + lastWords)) {
+                ineFTPSend().disconnect(&form);
+                server.HangUp(lastWords);
+            }
+        });
+        EXPECT_TRUE(SendFiles(files));
+        EXPECT_EQ(boxes.Texts(), "");
+        EXPECT_TRUE(server.Record().files.contains("/web/b" + lastWords));
+    }
+    EXPECT_EQ(server.Record().sessions, 2 * 3);
+}
+
 TEST_F(SendFilesTest, CancellingStopsBetweenFilesAndKeepsWhatWasRecorded) {
     std::vector<OutputFile> files = {File("a.html", "1"), File("b.html", "2"), File("c.html", "3")};
     QObject::connect(&ineFTPSend(), &TransferClient::StateChanged, &form, [this](int state) {
