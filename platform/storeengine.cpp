@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QTimer>
 #include <cerrno>
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -61,6 +63,25 @@ void CheckIsStore(sqlite3* handle) {
 // overtaken by those that have just come.
 constexpr int kBusyStepMilliseconds = 2;
 
+// A user notices waits that are longer.
+constexpr int kUnnoticedMilliseconds = 200;
+
+bool pointerWaits = false;
+
+// The pointer alone tells of a wait: served events could bring handlers that use the engine in the
+// middle of a statement. The event loop turns it back when the statement has ended.
+void ShowWait() {
+    if (pointerWaits || qobject_cast<QGuiApplication*>(qApp) == nullptr) {
+        return;
+    }
+    pointerWaits = true;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QTimer::singleShot(0, qApp, [] {
+        QGuiApplication::restoreOverrideCursor();
+        pointerWaits = false;
+    });
+}
+
 int WaitForOthers(void* waiting, int round) {
     auto* timer = static_cast<QElapsedTimer*>(waiting);
     if (round == 0) {
@@ -68,6 +89,9 @@ int WaitForOthers(void* waiting, int round) {
     }
     if (timer->hasExpired(kBusyMilliseconds)) {
         return 0;
+    }
+    if (timer->hasExpired(kUnnoticedMilliseconds)) {
+        ShowWait();
     }
     sqlite3_sleep(kBusyStepMilliseconds);
     return 1;

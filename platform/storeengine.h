@@ -1,10 +1,11 @@
 // One open store file: the SQLite connection that all cursors of a process share.
 //
 // Rollback journal (the file may lie on a network share), synchronous=EXTRA, a busy time-out of
-// kBusyMilliseconds, foreign processes assumed. The connection knows what the statements need
-// beyond SQLite: cstr(), like and comparison without regard to case for all of Spanish, and the
-// collation SPANISH, by which text columns are declared (spanish.h). While a store is open nothing
-// else in the process may open the same file: closing it would drop the engine's locks.
+// kBusyMilliseconds with the wait pointer after a moment, foreign processes assumed. The connection
+// knows what the statements need beyond SQLite: cstr(), like and comparison without regard to case
+// for all of Spanish, and the collation SPANISH, by which text columns are declared (spanish.h).
+// While a store is open nothing else in the process may open the same file: closing it would drop
+// the engine's locks.
 #pragma once
 
 #include "platform/spanish.h"
