@@ -88,6 +88,9 @@ void Publish() {
         EndSteps();
     }
     frmMain->lblInfo->setText(OutcomeText(before));
+    if (AnyStepFailed()) {
+        frmMain->lblRemaining->clear(); // nothing remains of a run that was given up
+    }
     if (LastOutcome == PublishOutcome::Delivered && StorageMethod == kStorageLocal) {
         ShowWebPreview(StoragePath + "index.html");
     }
@@ -116,6 +119,9 @@ void cmdUpdateWeb_Click(int index) {
         chosen->setChecked(true);
         Publish();
     } else {
+        if (publishing) {
+            frmMain->lblInfo->setText("Cancelando la actualización...");
+        }
         CancelPublish();
     }
     ShowBusy(false);

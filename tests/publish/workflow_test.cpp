@@ -265,6 +265,7 @@ TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     EXPECT_FALSE(whileSending);
     EXPECT_EQ(Sent(), kSite);
     EXPECT_EQ(Recorded(), kSite);
+    EXPECT_EQ(frmMain->lblRemaining->text(), "0 segundos");
     EXPECT_EQ(server.Record().files.size(), kSiteFiles);
     EXPECT_TRUE(frmMain->optAllOrChanged[0]->isChecked());
     Expect({"dddd", "", "Última actualización", 910, true, false});
@@ -349,6 +350,7 @@ TEST_F(Workflow, EachWayARunCanFailLeavesWhatItShould) {
         Publish();
         EXPECT_EQ(Sent(), failure.sent);
         EXPECT_EQ(Recorded(), failure.sent);
+        EXPECT_EQ(frmMain->lblRemaining->text(), "");
         Expect(failure.outcome);
     }
 }
@@ -409,6 +411,7 @@ TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
         ExpectIdle();
         Publish();
         ExpectIdle();
+        EXPECT_EQ(frmMain->lblInfo->text(), "Cancelando la actualización...");
         SelectMainTab(kPageCatalogue);
         ClickTool("Preview");
         SelectMainTab(kPagePublish);
