@@ -20,10 +20,15 @@
 #include "store/products.h"
 #include "store/store.h"
 
+#include <QScopedValueRollback>
+
 namespace {
 
 enum BrowseButton { kBrowseStore = 0, kBrowsePictures = 1, kBrowseSite = 2 };
 enum StorageOption { kStorageLocal = 0, kStorageFTP = 1 };
+
+// The connection is being checked: an impatient second press must not cut the check short.
+bool checking = false;
 
 constexpr int kMessagePictureFolder = 17;
 constexpr char kMaker[] = "Perlanta";
@@ -138,6 +143,10 @@ void cmdOK_Click(ConfigForm& form) {
 }
 
 void cmdCheckFTP_Click(ConfigForm& form) {
+    if (checking) {
+        return;
+    }
+    const QScopedValueRollback<bool> check(checking, true);
     ApplyConfig(form);
     if (ConnectFTP()) {
         MsgBox("Prueba de conexión finalizada con éxito.", BoxIcon::Information,

@@ -4,12 +4,15 @@
 #include "editor/productlist.h"
 #include "forms/configform.h"
 #include "forms/mainform.h"
+#include "platform/transfer.h"
 #include "platform/usersettings.h"
 #include "store/corpinfo.h"
 #include "tests/support/boxes.h"
 #include "tests/support/program.h"
 #include "tests/support/templatebuilder.h"
 
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -183,6 +186,25 @@ TEST_F(Config, TheConnectionTestTakesTheValuesOverAndCannotBeUndone) {
     });
     EXPECT_EQ(StorageMethod, 1);
     EXPECT_EQ(FTPServer, "host.invalid");
+}
+
+TEST_F(Config, ASecondPressDoesNotDisturbTheConnectionTest) {
+    const BoxAnswers boxes;
+    QTcpServer server; // hangs up on everybody
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    FTPControlPort = server.serverPort();
+    QObject::connect(&server, &QTcpServer::newConnection, [&server] {
+        Click(frmConfig->cmdCheckFTP);
+        server.nextPendingConnection()->abort();
+    });
+    Open(kPageHosting, [] {
+        Click(frmConfig->optStorageMethod[1]);
+        Type(frmConfig->txtFTPServer, "127.0.0.1");
+        Click(frmConfig->cmdCheckFTP);
+    });
+    FTPControlPort = 21;
+    EXPECT_EQ(boxes.Texts().toStdString(), "Error al conectar con el servidor FTP '127.0.0.1'. "
+                                           "El servidor ha cortado la conexión");
 }
 
 TEST_F(Config, FoldersAreChosenAndTheDesignFollowsTheCatalogue) {
