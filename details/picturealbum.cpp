@@ -1,6 +1,5 @@
 #include "details/picturealbum.h"
 
-#include "core/flavour.h"
 #include "core/settings.h"
 #include "details/assistance.h"
 #include "details/languages.h"
@@ -175,21 +174,8 @@ void Form_Activate() {
     UpdateAlbumToolbar(CurrentSlot());
 }
 
-// False if the picture could not be saved and the user would rather stay.
-bool SaveBeforeEnd() {
-    try {
-        SavePictureIfChanged();
-        return true;
-    } catch (const StoreError& error) {
-        return MsgBox("No se han podido guardar los últimos cambios: " + error.Text() +
-                          "\n\n¿Desea salir sin guardarlos?",
-                      BoxIcon::Warning, BoxButtons::YesNo, BoxAnswer::No,
-                      AppName) == BoxAnswer::Yes;
-    }
-}
-
 void Form_Unload(bool& cancel) {
-    cancel = !SaveBeforeEnd();
+    cancel = !SaveBeforeEnd(SavePictureIfChanged);
     if (cancel) {
         return;
     }

@@ -1,7 +1,6 @@
 #include "editor/mainscreen.h"
 
 #include "config/configdialog.h"
-#include "core/flavour.h"
 #include "core/settings.h"
 #include "core/vocabulary.h"
 #include "details/assistance.h"
@@ -14,7 +13,6 @@
 #include "forms/mainform.h"
 #include "generator/templatepreview.h"
 #include "platform/controlevents.h"
-#include "platform/dialogs.h"
 #include "publish/steps.h"
 #include "store/corpinfo.h"
 #include "store/fielddefs.h"
@@ -134,19 +132,6 @@ void ConnectTextAssistance() {
                       events, OpenProductId);
 }
 
-// False if the product could not be saved and the user would rather stay.
-bool SaveBeforeEnd() {
-    try {
-        SaveCurrentProduct();
-        return true;
-    } catch (const StoreError& error) {
-        return MsgBox("No se han podido guardar los últimos cambios: " + error.Text() +
-                          "\n\n¿Desea salir sin guardarlos?",
-                      BoxIcon::Warning, BoxButtons::YesNo, BoxAnswer::No,
-                      AppName) == BoxAnswer::Yes;
-    }
-}
-
 } // namespace
 
 void ConnectMainScreen() {
@@ -167,7 +152,7 @@ void LeaveMainScreen(bool& cancel) {
     if (ListRowCount() > 0) {
         ValidateProductRef(cancel, false);
     }
-    cancel = cancel || !SaveBeforeEnd();
+    cancel = cancel || !SaveBeforeEnd(SaveCurrentProduct);
 }
 
 void SelectMainTab(int tab) {

@@ -86,6 +86,16 @@ std::optional<QDateTime> ReadDate(QStringView text) {
     return QDateTime(date, time, Qt::UTC);
 }
 
+QString ShownDate(const QString& stored) {
+    const auto moment = ReadDate(stored);
+    return moment ? DateText(*moment) : stored;
+}
+
+QString StoredDate(const QString& shown) {
+    const auto moment = ReadDate(shown);
+    return moment ? StoredDateText(*moment) : shown;
+}
+
 QDateTime Now() {
     const QDateTime now = QDateTime::currentDateTime();
     const QTime time(now.time().hour(), now.time().minute(), now.time().second());

@@ -28,6 +28,10 @@ QString StoredDateText(const QDateTime& moment);
 // anything else.
 std::optional<QDateTime> ReadDate(QStringView text);
 
+// A stored date as screens show it, and back; a text that is no date stays as it is.
+QString ShownDate(const QString& stored);
+QString StoredDate(const QString& shown);
+
 // The clock of the whole program, to the second.
 QDateTime Now();
 

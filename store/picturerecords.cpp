@@ -50,16 +50,6 @@ qint64 NumberIn(const QLineEdit* box) {
     return static_cast<qint64>(LeadingNumber(box->text()));
 }
 
-QString ShownDate(const QString& stored) {
-    const auto moment = ReadDate(stored);
-    return moment ? DateText(*moment) : stored;
-}
-
-QString StoredDate(const QString& shown) {
-    const auto moment = ReadDate(shown);
-    return moment ? StoredDateText(*moment) : shown;
-}
-
 void TellLimit() {
     MsgBox("No se pueden incluir más de " + QString::number(PictureLimit()) +
                Messages[kMessageLimit],

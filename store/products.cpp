@@ -48,16 +48,6 @@ Recordset& Fields() {
     return adcData[kCursorFields];
 }
 
-QString ShownDate(const QString& stored) {
-    const auto moment = ReadDate(stored);
-    return moment ? DateText(*moment) : stored;
-}
-
-QString StoredDate(const QString& shown) {
-    const auto moment = ReadDate(shown);
-    return moment ? StoredDateText(*moment) : shown;
-}
-
 // Runs the row's statement and probes its lock: writing the currency that every product has takes
 // the lock or fails, and changes nothing.
 ProductState OpenRow(const QString& productId) {

@@ -99,3 +99,15 @@ void TouchLastUpdate(Touched what) {
         frmPictures->txtLastUpdate->setText(now);
     }
 }
+
+bool SaveBeforeEnd(void (*save)()) {
+    try {
+        save();
+        return true;
+    } catch (const StoreError& error) {
+        return MsgBox("No se han podido guardar los últimos cambios: " + error.Text() +
+                          "\n\n¿Desea salir sin guardarlos?",
+                      BoxIcon::Warning, BoxButtons::YesNo, BoxAnswer::No,
+                      AppName) == BoxAnswer::Yes;
+    }
+}

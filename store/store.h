@@ -48,3 +48,6 @@ enum class Touched { Product, Picture, All };
 // Puts the present date and time into the record boxes that a save writes: the main form's, the
 // album's or both. The row gets it at its next save.
 void TouchLastUpdate(Touched what);
+
+// Runs a save on the way out of a screen. False if it failed and the user would rather stay.
+bool SaveBeforeEnd(void (*save)());
