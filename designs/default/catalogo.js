@@ -1,5 +1,5 @@
 // The catalogue page: finds, sorts and pages what the data list holds. The choices stand in the
-// address behind "#", so that they can be linked to and the browser's way back works:
+// address behind #, so that they can be linked to and the browser's way back works:
 // q words, k category, z zone code, f7 and f8 option fields, o order, p page.
 (function () {
   'use strict';
@@ -10,17 +10,27 @@
   const pages = document.getElementById('paginas');
   const fields = ['q', 'z', 'f7', 'f8', 'o'];
 
-  // Texts come as they would stand in a page, with character references.
+  // Texts come as they would stand in a page, with character references; apostrophes as one without
+  // its semicolon, or behind a backslash.
   const decoder = document.createElement('textarea');
   function decode(text) {
-    if (!text.includes('&')) return text;
-    decoder.innerHTML = text;
+    const plain = text.replace(/&#39;?|\\'/g, '\'');
+    if (!plain.includes('&')) return plain;
+    decoder.innerHTML = plain;
     return decoder.value;
   }
 
-  // A column that some product lacks can't be told apart by product: it is not used.
+  // A column as an array. One that some product lacks can't be told apart by product: it is not used.
   const data = window.catalogue;
-  const column = (name) => (data[name].length === data.id.length ? data[name] : []);
+  function column(name) {
+    let entries = data[name];
+    if (name === 'price') {
+      entries = entries.split(',');
+    } else if (typeof entries === 'string') {
+      entries = entries.trim().replace(/,$/, '').slice(1, -1).split('\',\'');
+    }
+    return entries.length === data.id.length ? entries : [];
+  }
   const columns = {};
   for (const name of Object.keys(data)) columns[name] = column(name);
   const products = columns.id.map((id, i) => {
@@ -100,16 +110,16 @@
 
   function card(product) {
     const image = element('img', {
-      src: `s${product.picture}.jpg`,
-      srcset: `s${product.picture}.jpg 400w, m${product.picture}.jpg 800w`,
+      src: 's' + product.picture + '.jpg',
+      srcset: 's' + product.picture + '.jpg 400w, m' + product.picture + '.jpg 800w',
       sizes: '(min-width: 60em) 20rem, 46vw',
       width: 400, height: 300, alt: '', loading: 'lazy'
     });
     const price = product.price
       ? element('span', { class: 'amount' }, money.format(product.price) + ' \u20ac')
-      : element('span', { class: 'ask' }, "%%W.ONREQUEST%%");
+      : element('span', { class: 'ask' }, %Q%%%W.ONREQUEST%%%Q%);
     return element('li', { class: 'card' },
-      element('a', { href: `ficha${product.id}%LID%.html` },
+      element('a', { href: 'ficha' + product.id + '%LID%.html' },
         image, element('h3', {}, product.title), element('p', { class: 'price' }, price)));
   }
 
@@ -121,13 +131,13 @@
       return link;
     };
     const shown = [];
-    if (state.p > 1) shown.push(step(state.p - 1, "%%W.PREVIOUS%%", 'prev'));
+    if (state.p > 1) shown.push(step(state.p - 1, %Q%%%W.PREVIOUS%%%Q%, 'prev'));
     for (let page = 1; page <= last; page++) {
       const near = Math.abs(page - state.p) <= 2 || page === 1 || page === last;
       if (near) shown.push(step(page, String(page)));
       else if (Math.abs(page - state.p) === 3) shown.push(element('span', {}, '\u2026'));
     }
-    if (state.p < last) shown.push(step(state.p + 1, "%%W.NEXT%%", 'next'));
+    if (state.p < last) shown.push(step(state.p + 1, %Q%%%W.NEXT%%%Q%, 'next'));
     pages.replaceChildren(...shown);
     pages.hidden = last < 2;
   }
@@ -144,8 +154,9 @@
       if (link.dataset.path === state.k) link.setAttribute('aria-current', 'true');
       else link.removeAttribute('aria-current');
     }
-    count.textContent = chosen.length === 0 ? "%%W.NONE%%"
-      : chosen.length === 1 ? "%%W.ONE%%" : `${chosen.length} %%W.MANY%%`;
+    count.textContent = products.length === 0 ? %Q%%%W.EMPTY%%%Q%
+      : chosen.length === 0 ? %Q%%%W.NONE%%%Q%
+      : chosen.length === 1 ? %Q%%%W.ONE%%%Q% : chosen.length + %Q% %%W.MANY%%%Q%;
     list.replaceChildren(element('ul', { class: 'cards' },
       ...chosen.slice(first, first + perPage).map(card)));
     list.hidden = chosen.length === 0;
@@ -182,6 +193,6 @@
     if (event.target.closest('a')) document.getElementById('resultado').focus();
   });
   window.addEventListener('hashchange', show);
-  form.hidden = false;
+  form.hidden = products.length === 0;
   show();
 })();

@@ -1,14 +1,15 @@
 // All products, one entry per product and in the order of the catalogue: featured first, then the
-// latest. Fields of free text are left out on purpose: their apostrophes come as they were typed.
+// latest. What users type stands between back quotes, where no apostrophe or backslash does harm;
+// the catalogue page takes it apart.
 window.catalogue = {
   id: [%%LISTPRODUCTID%%],
   ref: [%%LISTPRODUCTREF%%],
-  title: [%%LISTSHORTDESC%%],
-  category: [%%LISTCATEGORY%%],
-  zone: [%%LISTSALEZONE%%],
-  zoneCode: [%%LISTSALEZONECODE%%],
-  price: [%%LISTPRICEAMOUNT%%],
   picture: [%%LISTMAINPICTUREID%%],
-  choice7: [%%LIST7%%.ID],
-  choice8: [%%LIST8%%.ID]
+  zoneCode: [%%LISTSALEZONECODE%%],
+  price: String.raw%B%%%LISTPRICEAMOUNT%%%B%,
+  title: String.raw%B%%%LISTSHORTDESC%%%B%,
+  category: String.raw%B%%%LISTCATEGORY%%%B%,
+  zone: String.raw%B%%%LISTSALEZONE%%%B%,
+  choice7: String.raw%B%%%LIST7%%.ID%B%,
+  choice8: String.raw%B%%%LIST8%%.ID%B%
 };

@@ -68,12 +68,12 @@
       const chosen = small.querySelector('img');
       const from = shown.getAttribute('src').slice(1);
       const to = chosen.getAttribute('src').slice(1);
-      shown.srcset = `s${to} 400w, m${to} 800w, g${to} 1600w`;
+      shown.srcset = 's' + to + ' 400w, m' + to + ' 800w, g' + to + ' 1600w';
       shown.src = 'm' + to;
       chosen.src = 's' + from;
       [shown.alt, chosen.alt] = [chosen.alt, shown.alt];
       [main.href, small.href] = [small.href, main.href];
-      main.parentElement.style.backgroundImage = `url(b${to})`;
+      main.parentElement.style.backgroundImage = 'url(b' + to + ')';
     });
   }
 })();

@@ -1,7 +1,7 @@
 // The search page: finds, sorts and pages what the data list holds. The choices stand in the
-// address behind "#", so that they can be linked to and the browser's way back works: z zone code,
+// address behind #, so that they can be linked to and the browser's way back works: z zone code,
 // t type, d and h lowest and highest price, r rooms, m size, x15 and the like must-haves, o order,
-// p page. The form of the home page sends its choices behind "?".
+// p page. The form of the home page sends its choices behind ?.
 (function () {
   'use strict';
   const perPage = 12;
@@ -13,11 +13,13 @@
   const fields = ['z', 't', 'd', 'h', 'r', 'm', 'o'];
   const language = document.documentElement.lang;
 
-  // Texts come as they would stand in a page, with character references.
+  // Texts come as they would stand in a page, with character references; apostrophes as one without
+  // its semicolon, or behind a backslash.
   const decoder = document.createElement('textarea');
   function decode(text) {
-    if (!text.includes('&')) return text;
-    decoder.innerHTML = text;
+    const plain = text.replace(/&#39;?|\\'/g, '\'');
+    if (!plain.includes('&')) return plain;
+    decoder.innerHTML = plain;
     return decoder.value;
   }
 
@@ -25,15 +27,16 @@
   const data = window.homes;
   function column(name) {
     let entries = data[name];
-    if (typeof entries === 'string') {
-      const text = entries.trim().replace(/,$/, '');
-      entries = text === '' ? [] : text.slice(1, -1).split("','");
+    if (name === 'price') {
+      entries = entries.split(',');
+    } else if (typeof entries === 'string') {
+      entries = entries.trim().replace(/,$/, '').slice(1, -1).split('\',\'');
     }
     return entries.length === data.id.length ? entries : [];
   }
   const columns = {};
   for (const name of Object.keys(data)) columns[name] = column(name);
-  // Numbers as people type them, "1.200" or "85,5": a point or comma before three digits groups them.
+  // Numbers as people type them, 1.200 or 85,5: a point or comma before three digits groups them.
   const number = (text) => parseFloat(
     String(text || '').replace(/[.,\s](?=\d{3}(\D|$))/g, '').replace(',', '.')) || 0;
 
@@ -45,7 +48,7 @@
       zone: decode(at('zone')),
       z: at('zoneCode'),
       t: at('type'),
-      price: number(at('price')),
+      price: Number(at('price')) || 0,
       picture: at('picture'),
       size: number(at('size')),
       rooms: number(at('singles')) + number(at('doubles')),
@@ -103,22 +106,22 @@
   function card(home) {
     const sizes = [
       [home.size, 'm\u00b2'],
-      [home.rooms, home.rooms === 1 ? "%%W.BEDROOM%%" : "%%W.BEDROOMS%%"],
-      [home.baths, home.baths === 1 ? "%%W.BATH%%" : "%%W.BATHS%%"]
+      [home.rooms, home.rooms === 1 ? %Q%%%W.BEDROOM%%%Q% : %Q%%%W.BEDROOMS%%%Q%],
+      [home.baths, home.baths === 1 ? %Q%%%W.BATH%%%Q% : %Q%%%W.BATHS%%%Q%]
     ].filter(([value]) => value > 0)
-      .map(([value, unit]) => element('span', {}, `${decimal.format(value)} ${unit}`));
+      .map(([value, unit]) => element('span', {}, decimal.format(value) + ' ' + unit));
     const type = home.t === '' ? '' : types.get(home.t) || '';
-    const unit = type === "%%W.RENT%%" ? " \u20ac%%W.PERMONTH%%" : ' \u20ac';
-    return element('li', { class: 'card' }, element('a', { href: `inm${home.id}%LID%.html` },
+    const unit = type === %Q%%%W.RENT%%%Q% ? %Q% \u20ac%%W.PERMONTH%%%Q% : ' \u20ac';
+    return element('li', { class: 'card' }, element('a', { href: 'inm' + home.id + '%LID%.html' },
       element('img', {
-        src: `s${home.picture}.jpg`,
-        srcset: `s${home.picture}.jpg 480w, m${home.picture}.jpg 960w`,
+        src: 's' + home.picture + '.jpg',
+        srcset: 's' + home.picture + '.jpg 480w, m' + home.picture + '.jpg 960w',
         sizes: '(min-width: 60em) 24rem, 100vw', width: 480, height: 360, alt: '', loading: 'lazy'
       }),
       element('span', { class: 'place' }, [type, home.zone].filter(Boolean).join(', ')),
       element('h3', {}, home.title),
       element('p', { class: 'price' },
-        home.price ? money.format(home.price) + unit : element('span', { class: 'ask' }, "%%W.ONREQUEST%%")),
+        home.price ? money.format(home.price) + unit : element('span', { class: 'ask' }, %Q%%%W.ONREQUEST%%%Q%)),
       element('p', { class: 'sizes' }, ...sizes)));
   }
 
@@ -130,13 +133,13 @@
       return link;
     };
     const shown = [];
-    if (state.p > 1) shown.push(step(state.p - 1, "%%W.PREVIOUS%%", 'prev'));
+    if (state.p > 1) shown.push(step(state.p - 1, %Q%%%W.PREVIOUS%%%Q%, 'prev'));
     for (let page = 1; page <= last; page++) {
       const near = Math.abs(page - state.p) <= 2 || page === 1 || page === last;
       if (near) shown.push(step(page, String(page)));
       else if (Math.abs(page - state.p) === 3) shown.push(element('span', {}, '\u2026'));
     }
-    if (state.p < last) shown.push(step(state.p + 1, "%%W.NEXT%%", 'next'));
+    if (state.p < last) shown.push(step(state.p + 1, %Q%%%W.NEXT%%%Q%, 'next'));
     pages.replaceChildren(...shown);
     pages.hidden = last < 2;
   }
@@ -149,8 +152,9 @@
     const first = (state.p - 1) * perPage;
     for (const name of fields) form.elements[name].value = state[name];
     for (const name of extras) form.elements[name].checked = state[name] !== '';
-    count.textContent = chosen.length === 0 ? "%%W.NONE%%"
-      : chosen.length === 1 ? "%%W.ONE%%" : `${chosen.length} %%W.MANY%%`;
+    count.textContent = homes.length === 0 ? %Q%%%W.EMPTY%%%Q%
+      : chosen.length === 0 ? %Q%%%W.NONE%%%Q%
+      : chosen.length === 1 ? %Q%%%W.ONE%%%Q% : chosen.length + %Q% %%W.MANY%%%Q%;
     list.replaceChildren(element('ul', { class: 'cards' },
       ...chosen.slice(first, first + perPage).map(card)));
     list.hidden = chosen.length === 0;
@@ -173,6 +177,8 @@
     for (const option of options) if (!offered.includes(option)) option.remove();
     form.elements[name].parentElement.hidden = offered.length < 2;
   }
+  form.elements.r.parentElement.hidden = homes.every((home) => home.rooms === 0);
+  form.elements.m.parentElement.hidden = homes.every((home) => home.size === 0);
   for (const name of extras) {
     const found = homes.filter((home) => home[name]).length;
     form.elements[name].parentElement.hidden = found === 0 || found === homes.length;
@@ -195,6 +201,6 @@
     if (event.target.closest('a')) document.getElementById('resultado').focus();
   });
   window.addEventListener('hashchange', show);
-  form.hidden = false;
+  form.hidden = homes.length === 0;
   show();
 })();

@@ -73,12 +73,12 @@
       const chosen = small.querySelector('img');
       const from = shown.getAttribute('src').slice(1);
       const to = chosen.getAttribute('src').slice(1);
-      shown.srcset = `s${to} 480w, m${to} 960w, g${to} 1920w`;
+      shown.srcset = 's' + to + ' 480w, m' + to + ' 960w, g' + to + ' 1920w';
       shown.src = 'm' + to;
       chosen.src = 's' + from;
       [shown.alt, chosen.alt] = [chosen.alt, shown.alt];
       [main.href, small.href] = [small.href, main.href];
-      main.parentElement.style.backgroundImage = `url(b${to})`;
+      main.parentElement.style.backgroundImage = 'url(b' + to + ')';
     });
   }
 })();

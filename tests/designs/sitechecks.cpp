@@ -41,7 +41,7 @@ void CheckAddress(const QDir& site, const QString& page, const QString& address,
 
 QStringList FindTagsLeft(const QDir& site) {
     static const QRegularExpression mark("%%[A-Z0-9][A-Z0-9.]*%%|%[A-Z]+[\\[:]%|%[\\]/][A-Z]+%|"
-                                         "%(LID|FK|SI|NO|[A-Z]{3,})%");
+                                         "%(LID|FK|SI|NO|Q|B|[A-Z]{3,})%");
     QStringList findings;
     for (const QString& name : site.entryList({"*.html", "*.js", "*.css"})) {
         const auto match = mark.match(ReadSiteFile(site, name));
@@ -55,13 +55,14 @@ QStringList FindTagsLeft(const QDir& site) {
 QStringList FindBrokenLinks(const QDir& site) {
     static const QRegularExpression comment("<!--.*?-->",
                                             QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression reference("\\b(href|src|srcset|action)=\"([^\"]*)\"|"
-                                              "(url)\\(([^)]*)\\)");
+    static const QRegularExpression reference(
+        "\\b(href|src|srcset|action)=(?:\"([^\"]*)\"|'([^']*)')|(url)\\(([^)]*)\\)");
     QStringList findings;
     for (const QString& name : site.entryList({"*.html", "*.css"})) {
         for (const auto& match : reference.globalMatch(ReadSiteFile(site, name).remove(comment))) {
             for (const QString& address :
-                 AddressesOf(match.captured(1), match.captured(2) + match.captured(4))) {
+                 AddressesOf(match.captured(1),
+                             match.captured(2) + match.captured(3) + match.captured(5))) {
                 CheckAddress(site, name, address, findings);
             }
         }
