@@ -4,16 +4,20 @@
 //   box ICON TITLE: TEXT        answered by "yes", "no" or "ok"
 //   login TITLE: TEXT           "password=TEXT" types it and presses OK, "cancel"
 //   config PAGE                 "folder=PATH" types the catalogue's folder and accepts, "cancel"
-//   main TITLE, ...             "reference=TEXT" types over the reference, "minimise", "close"
+//   main TITLE, ...             "reference=TEXT" types over the reference, "minimise", "close";
+//                               "publish=PORT" presses the button with an FTP server at that port,
+//                               "sending" waits until the first file is on its way
 //
 // With no more arguments he waits.
 #include "core/startup.h"
+#include "editor/mainscreen.h"
 #include "forms/apploginform.h"
 #include "forms/configform.h"
 #include "forms/mainform.h"
 #include "forms/splashform.h"
 #include "platform/dialogs.h"
 #include "platform/notify.h"
+#include "platform/transfer.h"
 
 #include <QMessageBox>
 #include <QTest>
@@ -22,6 +26,7 @@
 namespace {
 
 constexpr int kLookEvery = 5; // milliseconds
+constexpr int kPagePublish = 1;
 
 QStringList actions;
 QString lastSeen;
@@ -107,6 +112,10 @@ void Act(const QString& action) {
         ActOnDialog(window, action);
     } else if (TakeText(action, "reference", text)) {
         TypeOver(frmMain->txtProductRef, text);
+    } else if (TakeText(action, "publish", text)) {
+        FTPControlPort = text.toInt();
+        SelectMainTab(kPagePublish);
+        frmMain->cmdUpdateWeb[0]->click();
     } else if (action == "minimise") {
         frmMain->showMinimized();
     } else if (action == "close") {
@@ -118,6 +127,12 @@ void Look() {
     const QString seen = Seen();
     if (acting || seen.isEmpty()) {
         return;
+    }
+    if (actions.value(0) == "sending") {
+        if (!frmMain->lblInfo->text().startsWith("Enviando")) {
+            return;
+        }
+        actions.removeFirst();
     }
     if (seen != lastSeen || !actions.isEmpty()) {
         std::puts(seen.toUtf8().constData());

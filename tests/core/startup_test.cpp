@@ -2,13 +2,18 @@
 // (starter.cpp).
 #include "tests/support/files.h"
 
+#include "tests/support/ftpserver.h"
+#include "tests/support/templatebuilder.h"
+
 #include <QDir>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr int kPatience = 20000; // milliseconds
+constexpr int kPatience = 20000;  // milliseconds
+constexpr int kCloseLimit = 5000; // milliseconds, start and all
 
 constexpr char kProduct[] =
     "INSERT INTO Products (ProductId, ProductRef, PriceAmount, IsNew, SaleZone, LastUpdate) VALUES"
@@ -158,6 +163,24 @@ TEST_F(Startup, AnotherStartBringsTheRunningProgramUpAndEnds) {
     EXPECT_TRUE(NextLine(first).endsWith("maximised"));
     first.kill();
     first.waitForFinished(kPatience);
+}
+
+TEST_F(Startup, ClosingTheWindowEndsAPublishToAServerThatStandsStill) {
+    FtpServer server({"/web"});
+    FtpFaults faults;
+    faults.stall = true;
+    server.Misbehave(faults);
+    TemplateBuilder()
+        .Add(3, "index.html", "", "<p>inicio</p>")
+        .Write(home.filePath("data"), "Default.zdt");
+    Settings("StorageMethod=1\nFTPServer=127.0.0.1\nFTPPath=/web\n");
+    QElapsedTimer time;
+    time.start();
+    Run({"publish=" + QString::number(server.Port()), "sending", "close"});
+    EXPECT_LT(time.elapsed(), kCloseLimit);
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(server.Record().sessions, 1);
+    EXPECT_TRUE(SettingsText().contains("\nLastWebUpdate=\n"));
 }
 
 TEST_F(Startup, AFlavourFileBesideTheProgramChangesNounsTitleAndMenu) {
