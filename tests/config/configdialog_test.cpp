@@ -193,8 +193,11 @@ TEST_F(Config, ASecondPressDoesNotDisturbTheConnectionTest) {
     QTcpServer server; // hangs up on everybody
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     FTPControlPort = server.serverPort();
-    QObject::connect(&server, &QTcpServer::newConnection, [&server] {
-        Click(frmConfig->cmdCheckFTP);
+    bool pressed = false;
+    QObject::connect(&server, &QTcpServer::newConnection, [&] {
+        if (!std::exchange(pressed, true)) {
+            Click(frmConfig->cmdCheckFTP);
+        }
         server.nextPendingConnection()->abort();
     });
     Open(kPageHosting, [] {
@@ -203,6 +206,7 @@ TEST_F(Config, ASecondPressDoesNotDisturbTheConnectionTest) {
         Click(frmConfig->cmdCheckFTP);
     });
     FTPControlPort = 21;
+    EXPECT_TRUE(pressed);
     EXPECT_EQ(boxes.Texts().toStdString(), "Error al conectar con el servidor FTP '127.0.0.1'. "
                                            "El servidor ha cortado la conexión");
 }
