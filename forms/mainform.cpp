@@ -200,8 +200,12 @@ void MainForm::AlignLabels() {
     for (int slot = 0; slot < static_cast<int>(lblFields.size()); slot += fraFields->Columns()) {
         width = std::max(width, lblFields[slot]->sizeHint().width());
     }
-    layRecord->setColumnMinimumWidth(0, width);
-    layFields->setColumnMinimumWidth(0, width);
+    // Setting a width, also the same one, asks for another layout, which would come by here again.
+    for (QGridLayout* layout : {layRecord, layFields}) {
+        if (layout->columnMinimumWidth(0) != width) {
+            layout->setColumnMinimumWidth(0, width);
+        }
+    }
 }
 
 void MainForm::SetUpSuggestions() {
