@@ -3,6 +3,7 @@
 #include "core/flavour.h"
 #include "core/settings.h"
 #include "details/webpreview.h"
+#include "editor/buttons.h"
 #include "forms/mainform.h"
 #include "generator/generate.h"
 #include "platform/controls.h"
@@ -10,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "publish/abort.h"
 #include "publish/steps.h"
+#include "store/fielddefs.h"
 #include "store/snapshot.h"
 
 PublishOutcome LastOutcome = PublishOutcome::None;
@@ -38,6 +40,8 @@ void ShowBusy(bool busy) {
     }
     EnableWhileBusy("cmdUpdateWeb", !busy, frmMain);
     if (!busy) {
+        DisableUnusedFields();
+        RefreshButtons();
         ShowButton(kButtonUpdate, kButtonCancel);
     }
 }

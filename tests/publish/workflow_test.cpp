@@ -223,6 +223,7 @@ protected:
                                        static_cast<QWidget*>(frmMain->txtProductRef)}) {
             EXPECT_TRUE(control->isEnabled()) << control->objectName().toStdString();
         }
+        EXPECT_FALSE(frmMain->txtFields.back()->isEnabled()) << "a box without a field";
         EXPECT_TRUE(frmMain->mnuConfig[0]->isEnabled());
     }
 
