@@ -16,6 +16,14 @@ void InitialiseOnce() {
     std::call_once(flag, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 }
 
+// The notifier that called may be the one that goes, so it is left to the event loop to free.
+void Drop(std::unique_ptr<QSocketNotifier>& notifier) {
+    if (notifier) {
+        notifier->setEnabled(false);
+        notifier.release()->deleteLater();
+    }
+}
+
 } // namespace
 
 CurlLoop::CurlLoop(QObject* parent) : QObject(parent), timer(new QTimer(this)) {
@@ -51,6 +59,20 @@ void CurlLoop::Remove(CURL* easy) {
     }
 }
 
+void CurlLoop::AwaitConnection(curl_socket_t socket) {
+    awaited = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Write);
+    connect(awaited.get(), &QSocketNotifier::activated, this, [this, socket] {
+        EndAwaiting(socket);
+        Act(CURL_SOCKET_TIMEOUT, 0);
+    });
+}
+
+void CurlLoop::EndAwaiting(curl_socket_t socket) {
+    if (awaited && awaited->socket() == socket) {
+        Drop(awaited);
+    }
+}
+
 int CurlLoop::OnSocket(CURL* /*easy*/, curl_socket_t socket, int what, void* self,
                        void* /*socketData*/) {
     static_cast<CurlLoop*>(self)->WatchSocket(socket, what);
@@ -68,23 +90,17 @@ int CurlLoop::OnTimer(CURLM* /*multi*/, long milliseconds, void* self) {
 }
 
 void CurlLoop::WatchSocket(curl_socket_t socket, int what) {
-    // The notifier that called may be the one that goes, so it is left to the event loop to free.
-    const auto drop = [](std::unique_ptr<QSocketNotifier>& notifier) {
-        if (notifier) {
-            notifier->setEnabled(false);
-            notifier.release()->deleteLater();
-        }
-    };
+    EndAwaiting(socket);
     Watch& watch = watches[socket];
     const bool reads = what == CURL_POLL_IN || what == CURL_POLL_INOUT;
     const bool writes = what == CURL_POLL_OUT || what == CURL_POLL_INOUT;
     if (!reads) {
-        drop(watch.read);
+        Drop(watch.read);
     } else if (!watch.read) {
         watch.read = MakeNotifier(socket, false);
     }
     if (!writes) {
-        drop(watch.write);
+        Drop(watch.write);
     } else if (!watch.write) {
         watch.write = MakeNotifier(socket, true);
     }
@@ -119,11 +135,14 @@ void CurlLoop::Perform(curl_socket_t socket, int events) {
     }
     busy.start();
     curl_multi_socket_action(multi, socket, events, &left);
-    curl_multi_perform(multi, &left);
+    // Only the call before tells which sockets to watch, so this one comes behind it and only where
+    // it has to.
+    if (std::exchange(lookAgain, false) || socket == CURL_SOCKET_TIMEOUT) {
+        curl_multi_perform(multi, &left);
+    }
     busy.invalidate();
     CollectFinished();
-    // A data connection whose port came with the last reply is left to the next call, and no socket
-    // or timer of libcurl's announces it.
+    // Whatever else libcurl leaves to the next call without a socket or a timer that announces it.
     if (!running.empty() && (!timer->isActive() || timer->remainingTime() > kPulseMilliseconds)) {
         timer->start(kPulseMilliseconds);
     }

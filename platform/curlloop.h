@@ -34,6 +34,16 @@ public:
     // From inside a callback the handle only goes silent: libcurl has it until it is freed.
     void Remove(CURL* easy);
 
+    // From inside libcurl, when something happened that it acts on in the next call only, such as
+    // the port of a data connection having come.
+    void LookAgain() { lookAgain = true; }
+
+    // For a data connection that is being made, which libcurl doesn't announce: it goes on as soon
+    // as the connection is there. One at a time; EndAwaiting has to run before the socket is
+    // closed.
+    void AwaitConnection(curl_socket_t socket);
+    void EndAwaiting(curl_socket_t socket);
+
 private:
     struct Watch {
         std::unique_ptr<QSocketNotifier> read;
@@ -54,5 +64,7 @@ private:
     std::weak_ptr<void> holder;
     QElapsedTimer busy; // since libcurl was called; invalid while it isn't
     std::unordered_map<curl_socket_t, Watch> watches;
+    std::unique_ptr<QSocketNotifier> awaited; // of AwaitConnection
+    bool lookAgain = false;
     std::unordered_map<CURL*, std::function<void(CURLcode)>> running;
 };

@@ -199,6 +199,7 @@ size_t TransferRequest::OnBody(const char* data, size_t size, size_t count, void
 size_t TransferRequest::OnHeader(const char* data, size_t size, size_t count, void* self) {
     auto* request = static_cast<TransferRequest*>(self);
     request->words.AddLine(QByteArray(data, qsizetype(size * count)));
+    request->loop.LookAgain();
     if (request->asked && !request->answered) {
         request->answered = true;
         request->Report(kStateRequestSent);
@@ -226,6 +227,7 @@ curl_socket_t TransferRequest::OnOpenSocket(void* self, curlsocktype /*purpose*/
         request->controlSockets.insert(opened);
     } else if (opened >= 0) {
         setsockopt(opened, SOL_SOCKET, SO_SNDBUF, &kSendBuffer, sizeof kSendBuffer);
+        request->loop.AwaitConnection(opened);
     }
     if (!request->asked) {
         request->Report(kStateResolved);
@@ -239,6 +241,7 @@ curl_socket_t TransferRequest::OnOpenSocket(void* self, curlsocktype /*purpose*/
 // again for ever.
 int TransferRequest::OnCloseSocket(void* self, curl_socket_t socket) {
     auto* request = static_cast<TransferRequest*>(self);
+    request->loop.EndAwaiting(socket);
     if (request->controlSockets.remove(socket) && request->upload.isOpen() && request->report) {
         request->cutReason = LastRefusal(LastWords(socket));
     }

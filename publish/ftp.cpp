@@ -12,6 +12,7 @@
 #include "publish/md5control.h"
 #include "publish/steps.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 
 int FTPLastState = 0;
@@ -25,6 +26,10 @@ constexpr char kStagingFile[] = "kpfftp.tmp"; // in the store's folder
 constexpr int kCurrentTask = 0;               // the bar of the task now running
 
 TransferClient* client = nullptr;
+
+// The file that is named as being sent, none before the first one, and since when.
+QString shownName;
+QElapsedTimer lastShown;
 
 void OnFTPStateChanged(int state) {
     FTPLastState = state;
@@ -79,6 +84,17 @@ void Unstage() {
     }
 }
 
+// Each change of a text lays the form out anew, which costs more than sending a small file. So a
+// name is shown only if the one before could be read: a file that is quicker goes unnamed.
+void ShowSending(const QString& name) {
+    const bool readable = !lastShown.isValid() || lastShown.elapsed() >= kServeInterval;
+    if (readable && name != shownName && !AbortPublish) {
+        frmMain->lblInfo->setText("Enviando " + name);
+        shownName = name;
+        lastShown.start();
+    }
+}
+
 void ShowRemaining(double sent, double total) {
     frmMain->lblRemaining->setText(TimeRemaining(sent, total));
 }
@@ -95,10 +111,10 @@ enum class Sent { Yes, Retry, Stop };
 // sent.
 Sent SendFile(const OutputFile& file, double sent, double total) {
     const QString name = TrimBlanks(file.Name);
-    frmMain->lblInfo->setText("Enviando " + name);
     Stage(file.Data);
     ineFTPSend().Execute("PUT \"" + DBpath + kStagingFile + "\" \"" + name + "\"");
     while (ineFTPSend().StillExecuting()) {
+        ShowSending(name);
         WaitForEvents();
         ShowRemaining(sent, total);
     }
@@ -157,6 +173,8 @@ bool ExecuteFTPCommand(const QString& command) {
 bool SendChangedFiles(std::vector<OutputFile>& files) {
     const double total = MarkChangedFiles(files);
     double sent = 0;
+    shownName.clear();
+    lastShown.invalidate();
     ResetTimeRemaining();
     for (std::size_t i = 0; i < files.size() && !AbortPublish;) {
         SetProgress(static_cast<int>(i), static_cast<int>(files.size()) - 1, 0, kCurrentTask);
