@@ -20,7 +20,7 @@
     return decoder.value;
   }
 
-  // A column as an array. One that some product lacks can't be told apart by product: it is not used.
+  // A column as an array. One that some product lacks can't be told apart by product: it isn't used.
   const data = window.catalogue;
   function column(name) {
     let entries = data[name];
@@ -104,8 +104,8 @@
   }
 
   const money = new Intl.NumberFormat(document.documentElement.lang, {
-    minimumFractionDigits: 2, maximumFractionDigits: 2, trailingZeroDisplay: 'stripIfInteger',
-    useGrouping: 'always'
+    style: 'currency', currency: 'EUR', useGrouping: 'always',
+    minimumFractionDigits: 2, maximumFractionDigits: 2, trailingZeroDisplay: 'stripIfInteger'
   });
 
   function card(product) {
@@ -116,7 +116,7 @@
       width: 400, height: 300, alt: '', loading: 'lazy'
     });
     const price = product.price
-      ? element('span', { class: 'amount' }, money.format(product.price) + ' \u20ac')
+      ? element('span', { class: 'amount' }, money.format(product.price))
       : element('span', { class: 'ask' }, %Q%%%W.ONREQUEST%%%Q%);
     return element('li', { class: 'card' },
       element('a', { href: 'ficha' + product.id + '%LID%.html' },

@@ -21,12 +21,19 @@
     place.append(link);
   }
 
-  // The price as machines read it: no separator but the decimal point.
-  for (const price of document.querySelectorAll('[itemprop=price]')) {
+  // Prices stand in the numerals of the machine that made the pages. They are shown in those of the
+  // page's language, and machines read them without a separator but the decimal point.
+  const language = document.documentElement.lang;
+  for (const price of document.querySelectorAll('[itemprop=price], .amount')) {
     const text = price.textContent.replace(/[^\d.,]/g, '');
+    if (text === '') continue;
     const decimals = /[.,](\d{2})$/.exec(text);
     const whole = (decimals ? text.slice(0, -3) : text).replace(/\D/g, '');
-    price.setAttribute('content', (whole || '0') + (decimals ? '.' + decimals[1] : ''));
+    const value = (whole || '0') + (decimals ? '.' + decimals[1] : '');
+    if (price.hasAttribute('itemprop')) price.setAttribute('content', value);
+    price.textContent = new Intl.NumberFormat(language, {
+      minimumFractionDigits: decimals ? 2 : 0, useGrouping: 'always'
+    }).format(value);
   }
 
   // The codes in the links of the tree of categories are short, but two names can share one: links

@@ -98,7 +98,7 @@
   }
 
   const money = new Intl.NumberFormat(language, {
-    maximumFractionDigits: 0, useGrouping: 'always'
+    style: 'currency', currency: 'EUR', maximumFractionDigits: 0, useGrouping: 'always'
   });
   const decimal = new Intl.NumberFormat(language, { useGrouping: 'always' });
   const types = new Map([...form.elements.t.options].map((option) => [option.value, option.text]));
@@ -111,7 +111,7 @@
     ].filter(([value]) => value > 0)
       .map(([value, unit]) => element('span', {}, decimal.format(value) + ' ' + unit));
     const type = home.t === '' ? '' : types.get(home.t) || '';
-    const unit = type === %Q%%%W.RENT%%%Q% ? %Q% \u20ac%%W.PERMONTH%%%Q% : ' \u20ac';
+    const unit = type === %Q%%%W.RENT%%%Q% ? %Q%%%W.PERMONTH%%%Q% : '';
     return element('li', { class: 'card' }, element('a', { href: 'inm' + home.id + '%LID%.html' },
       element('img', {
         src: 's' + home.picture + '.jpg',
@@ -121,7 +121,8 @@
       element('span', { class: 'place' }, [type, home.zone].filter(Boolean).join(', ')),
       element('h3', {}, home.title),
       element('p', { class: 'price' },
-        home.price ? money.format(home.price) + unit : element('span', { class: 'ask' }, %Q%%%W.ONREQUEST%%%Q%)),
+        home.price ? money.format(home.price) + unit
+          : element('span', { class: 'ask' }, %Q%%%W.ONREQUEST%%%Q%)),
       element('p', { class: 'sizes' }, ...sizes)));
   }
 

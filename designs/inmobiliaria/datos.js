@@ -1,6 +1,6 @@
 // All homes, one entry per home and in the order of the catalogue: featured first, then the latest.
-// What users type stands between back quotes, where no apostrophe or backslash does harm; the search
-// page takes it apart.
+// What users type stands between back quotes, where no apostrophe or backslash does harm; the
+// search page takes it apart.
 window.homes = {
   id: [%%LISTPRODUCTID%%],
   ref: [%%LISTPRODUCTREF%%],

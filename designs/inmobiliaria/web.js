@@ -47,14 +47,15 @@
   const amount = document.querySelector('.deal [itemprop=price]');
   if (loan && amount && !document.querySelector('.deal .rent')) {
     const money = new Intl.NumberFormat(language,
-      { maximumFractionDigits: 0, useGrouping: 'always' });
+      { style: 'currency', currency: 'EUR', maximumFractionDigits: 0, useGrouping: 'always' });
     const quote = () => {
-      const [savings, interest, years] = [...loan.querySelectorAll('input')].map((i) => Number(i.value));
+      const [savings, interest, years] =
+        [...loan.querySelectorAll('input')].map((input) => Number(input.value));
       const debt = Math.max(0, Number(amount.getAttribute('content')) - savings);
       const rate = interest / 1200;
       const months = years * 12;
       const monthly = rate > 0 ? debt * rate / (1 - Math.pow(1 + rate, -months)) : debt / months;
-      loan.querySelector('output').textContent = isFinite(monthly) ? money.format(monthly) + ' \u20ac' : '';
+      loan.querySelector('output').textContent = isFinite(monthly) ? money.format(monthly) : '';
     };
     loan.addEventListener('input', quote);
     loan.hidden = false;
