@@ -27,6 +27,10 @@ constexpr int kCurrentTask = 0;               // the bar of the task now running
 
 TransferClient* client = nullptr;
 
+// What the staging file holds has been sent and counts as removed. The file itself stays until the
+// last one has gone: making it anew for each takes file systems longer and longer.
+bool stagedIsSent = false;
+
 // The file that is named as being sent, none before the first one, and since when.
 QString shownName;
 QElapsedTimer lastShown;
@@ -72,14 +76,16 @@ double MarkChangedFiles(std::vector<OutputFile>& files) {
 // content goes along, as it always has.
 void Stage(const QByteArray& data) {
     QFile staging(DBpath + kStagingFile);
-    if (!staging.open(QIODevice::ReadWrite) || staging.write(data) != data.size()) {
+    if (!staging.open(QIODevice::ReadWrite) || (stagedIsSent && !staging.resize(data.size())) ||
+        staging.write(data) != data.size()) {
         throw std::runtime_error("No se puede escribir el fichero " +
                                  (DBpath + kStagingFile).toStdString());
     }
+    stagedIsSent = false;
 }
 
-void Unstage() {
-    if (QFile::exists(DBpath + kStagingFile)) {
+void RemoveStaged() {
+    if (stagedIsSent && QFile::exists(DBpath + kStagingFile)) {
         FileOperation(FileOp::Delete, {DBpath + kStagingFile}, {});
     }
 }
@@ -173,6 +179,7 @@ bool ExecuteFTPCommand(const QString& command) {
 bool SendChangedFiles(std::vector<OutputFile>& files) {
     const double total = MarkChangedFiles(files);
     double sent = 0;
+    stagedIsSent = false;
     shownName.clear();
     lastShown.invalidate();
     ResetTimeRemaining();
@@ -184,7 +191,7 @@ bool SendChangedFiles(std::vector<OutputFile>& files) {
             if (outcome == Sent::Stop) {
                 return true;
             }
-            Unstage();
+            stagedIsSent = true;
             sent += CountedBytes(file); // of a file that is tried again, each time
             ShowRemaining(sent, total);
             i -= outcome == Sent::Retry ? 1 : 0;
@@ -192,6 +199,7 @@ bool SendChangedFiles(std::vector<OutputFile>& files) {
         ++i;
         DoEvents();
     }
+    RemoveStaged();
     CloseFTP();
     if (AbortPublish) {
         return false;
