@@ -1,3 +1,5 @@
+// For curl_multi_socket_all, which is out of favour with programs of many transfers.
+#define CURL_DISABLE_DEPRECATION
 #include "platform/curlloop.h"
 
 #include <QCoreApplication>
@@ -26,7 +28,8 @@ void Drop(std::unique_ptr<QSocketNotifier>& notifier) {
 
 } // namespace
 
-CurlLoop::CurlLoop(QObject* parent) : QObject(parent), timer(new QTimer(this)) {
+CurlLoop::CurlLoop(QObject* parent)
+    : QObject(parent), timer(new QTimer(this)), answerTimer(new QTimer(this)) {
     InitialiseOnce();
     multi = curl_multi_init();
     curl_multi_setopt(multi, CURLMOPT_SOCKETFUNCTION, OnSocket);
@@ -34,7 +37,7 @@ CurlLoop::CurlLoop(QObject* parent) : QObject(parent), timer(new QTimer(this)) {
     curl_multi_setopt(multi, CURLMOPT_TIMERFUNCTION, OnTimer);
     curl_multi_setopt(multi, CURLMOPT_TIMERDATA, this);
     timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, this, [this] { Act(CURL_SOCKET_TIMEOUT, 0); });
+    connect(timer, &QTimer::timeout, this, [this] { Act(); });
 }
 
 CurlLoop::~CurlLoop() {
@@ -54,6 +57,8 @@ void CurlLoop::Start(CURL* easy, std::function<void(CURLcode)> finished) {
 }
 
 void CurlLoop::Remove(CURL* easy) {
+    Drop(answer);
+    answerTimer->stop();
     if (running.erase(easy) > 0) {
         curl_multi_remove_handle(multi, easy);
     }
@@ -63,7 +68,7 @@ void CurlLoop::AwaitConnection(curl_socket_t socket) {
     awaited = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Write);
     connect(awaited.get(), &QSocketNotifier::activated, this, [this, socket] {
         EndAwaiting(socket);
-        Act(CURL_SOCKET_TIMEOUT, 0);
+        Act();
     });
 }
 
@@ -71,6 +76,28 @@ void CurlLoop::EndAwaiting(curl_socket_t socket) {
     if (awaited && awaited->socket() == socket) {
         Drop(awaited);
     }
+}
+
+void CurlLoop::ResumeOnAnswer(CURL* easy, curl_socket_t socket, int milliseconds,
+                              std::function<bool()> givesUp) {
+    answer = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
+    connect(answer.get(), &QSocketNotifier::activated, this, [this, easy] { Resume(easy); });
+    answerTimer->disconnect(this);
+    answerTimer->callOnTimeout(this, [this, easy, givesUp = std::move(givesUp)] {
+        if (givesUp()) {
+            Resume(easy);
+        }
+    });
+    answerTimer->start(milliseconds);
+}
+
+void CurlLoop::Resume(CURL* easy) {
+    if (busy.isValid()) { // libcurl is on the stack and serves events: the notifier calls again
+        return;
+    }
+    Drop(answer);
+    answerTimer->stop();
+    curl_easy_pause(easy, CURLPAUSE_CONT);
 }
 
 int CurlLoop::OnSocket(CURL* /*easy*/, curl_socket_t socket, int what, void* self,
@@ -112,34 +139,32 @@ void CurlLoop::WatchSocket(curl_socket_t socket, int what) {
 std::unique_ptr<QSocketNotifier> CurlLoop::MakeNotifier(curl_socket_t socket, bool forWriting) {
     auto notifier = std::make_unique<QSocketNotifier>(socket, forWriting ? QSocketNotifier::Write
                                                                          : QSocketNotifier::Read);
-    const int events = forWriting ? CURL_CSELECT_OUT : CURL_CSELECT_IN;
-    connect(notifier.get(), &QSocketNotifier::activated, this,
-            [this, socket, events] { Act(socket, events); });
+    connect(notifier.get(), &QSocketNotifier::activated, this, [this] { Act(); });
     return notifier;
 }
 
-void CurlLoop::Act(curl_socket_t socket, int events) {
+void CurlLoop::Act() {
     const std::shared_ptr<void> alive = holder.lock();
-    Perform(socket, events);
+    Perform();
     if (alive.use_count() ==
         1) { // given up meanwhile; the caller is a part of it, so it goes later
         QTimer::singleShot(0, qApp, [alive] {});
     }
 }
 
-void CurlLoop::Perform(curl_socket_t socket, int events) {
+void CurlLoop::Perform() {
     int left = 0;
     if (busy.isValid()) { // events served inside a callback: what was due comes again
         timer->start(kAgainMilliseconds);
         return;
     }
     busy.start();
-    curl_multi_socket_action(multi, socket, events, &left);
-    // Only the call before tells which sockets to watch, so this one comes behind it and only where
-    // it has to.
-    if (std::exchange(lookAgain, false) || socket == CURL_SOCKET_TIMEOUT) {
-        curl_multi_perform(multi, &left);
-    }
+    // There is one transfer, and libcurl doesn't announce every socket that it waits for: it looks
+    // at all of them, and once more where it acts on a reply in the next call only.
+    do {
+        lookAgain = false;
+        curl_multi_socket_all(multi, &left);
+    } while (lookAgain);
     busy.invalidate();
     CollectFinished();
     // Whatever else libcurl leaves to the next call without a socket or a timer that announces it.

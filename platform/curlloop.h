@@ -44,6 +44,12 @@ public:
     void AwaitConnection(curl_socket_t socket);
     void EndAwaiting(curl_socket_t socket);
 
+    // For a handle that has paused itself: it goes on when the socket has something to read or is
+    // closed by the peer, or when `milliseconds` have passed and `givesUp` says so; otherwise they
+    // begin again. One at a time; Remove ends it.
+    void ResumeOnAnswer(CURL* easy, curl_socket_t socket, int milliseconds,
+                        std::function<bool()> givesUp);
+
 private:
     struct Watch {
         std::unique_ptr<QSocketNotifier> read;
@@ -53,10 +59,11 @@ private:
     static int OnSocket(CURL* easy, curl_socket_t socket, int what, void* self, void* socketData);
     static int OnTimer(CURLM* multi, long milliseconds, void* self);
 
+    void Resume(CURL* easy);
     void WatchSocket(curl_socket_t socket, int what);
     std::unique_ptr<QSocketNotifier> MakeNotifier(curl_socket_t socket, bool forWriting);
-    void Act(curl_socket_t socket, int events);
-    void Perform(curl_socket_t socket, int events);
+    void Act();
+    void Perform();
     void CollectFinished();
 
     CURLM* multi;
@@ -65,6 +72,8 @@ private:
     QElapsedTimer busy; // since libcurl was called; invalid while it isn't
     std::unordered_map<curl_socket_t, Watch> watches;
     std::unique_ptr<QSocketNotifier> awaited; // of AwaitConnection
+    std::unique_ptr<QSocketNotifier> answer;  // of ResumeOnAnswer
+    QTimer* answerTimer;
     bool lookAgain = false;
     std::unordered_map<CURL*, std::function<void(CURLcode)>> running;
 };

@@ -4,8 +4,10 @@
 #include "platform/transferstates.h"
 
 #include <algorithm>
+#include <linux/sockios.h>
 #include <netinet/in.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -14,8 +16,7 @@ namespace {
 // How long a server that has cut a data connection may take to say why: milliseconds.
 constexpr int kLastWords = 300;
 
-// What waits in this machine for a slow line to take it counts as sent, and then the server's reply
-// has to come within the time-out: bytes.
+// What waits in this machine for a slow line to take it counts as sent in the progress: bytes.
 constexpr int kSendBuffer = 256 * 1024;
 
 // No document is larger: a peer that never stops must not fill the memory. Bytes.
@@ -33,6 +34,12 @@ QByteArray LastWords(curl_socket_t socket) {
     QByteArray words(1024, '\0');
     const ssize_t got = recv(socket, words.data(), size_t(words.size()), MSG_DONTWAIT);
     return words.left(std::max<ssize_t>(got, 0));
+}
+
+// Bytes that the peer hasn't got yet.
+int Unsent(curl_socket_t socket) {
+    int bytes = 0;
+    return ioctl(socket, SIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
 int PortOf(const curl_sockaddr& address) {
@@ -75,6 +82,9 @@ void TransferRequest::Reset(int seconds) {
     bodyRead = 0;
     asked = false;
     answered = false;
+    allSent = false;
+    unanswered = false;
+    timeoutSeconds = seconds;
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(easy, CURLOPT_PROXY, "");
     SetTimeouts(seconds);
@@ -157,7 +167,7 @@ bool TransferRequest::PrepareUpload(const FtpAccount& account, const QByteArray&
 void TransferRequest::Start(std::function<void(CURLcode)> finished) {
     loop.Start(easy, [this, finished = std::move(finished)](CURLcode code) {
         upload.close();
-        finished(code);
+        finished(unanswered ? CURLE_OPERATION_TIMEDOUT : code);
     });
 }
 
@@ -181,10 +191,33 @@ void TransferRequest::Report(int state) const {
     }
 }
 
+// Ends the data stream, as closing its connection would, and looks for the reply. On a slow line
+// much of the file still waits in this machine: time runs out only where none of it moves.
+void TransferRequest::AwaitReply() {
+    allSent = true;
+    shutdown(dataSocket, SHUT_WR);
+    loop.ResumeOnAnswer(easy, *controlSockets.begin(), timeoutSeconds * 1000,
+                        [this, before = Unsent(dataSocket)]() mutable {
+                            const int now = Unsent(dataSocket);
+                            unanswered = now == std::exchange(before, now);
+                            return unanswered;
+                        });
+}
+
+// libcurl asks for more when it has sent what it got before.
 size_t TransferRequest::OnRead(char* buffer, size_t size, size_t count, void* self) {
-    const qint64 got =
-        static_cast<TransferRequest*>(self)->upload.read(buffer, qint64(size * count));
-    return got < 0 ? CURL_READFUNC_ABORT : static_cast<size_t>(got);
+    auto* request = static_cast<TransferRequest*>(self);
+    const qint64 got = request->upload.read(buffer, qint64(size * count));
+    if (got < 0 || request->unanswered) {
+        return CURL_READFUNC_ABORT;
+    }
+    const bool awaitable =
+        request->dataSocket != CURL_SOCKET_BAD && request->controlSockets.size() == 1;
+    if (got == 0 && !request->allSent && awaitable) {
+        request->AwaitReply();
+        return CURL_READFUNC_PAUSE;
+    }
+    return static_cast<size_t>(got);
 }
 
 size_t TransferRequest::OnBody(const char* data, size_t size, size_t count, void* self) {
@@ -208,8 +241,8 @@ size_t TransferRequest::OnHeader(const char* data, size_t size, size_t count, vo
     return size * count;
 }
 
-// libcurl waits for the reply to an upload without returning to the event loop, but comes by here
-// once a second: the window stays alive and can be closed while a server makes us wait.
+// Where libcurl waits without returning to the event loop it comes by here once a second: the
+// window stays alive and can be closed.
 int TransferRequest::OnProgress(void* self, curl_off_t /*toGet*/, curl_off_t /*got*/,
                                 curl_off_t /*toSend*/, curl_off_t /*sent*/) {
     auto* request = static_cast<TransferRequest*>(self);
@@ -227,6 +260,7 @@ curl_socket_t TransferRequest::OnOpenSocket(void* self, curlsocktype /*purpose*/
         request->controlSockets.insert(opened);
     } else if (opened >= 0) {
         setsockopt(opened, SOL_SOCKET, SO_SNDBUF, &kSendBuffer, sizeof kSendBuffer);
+        request->dataSocket = opened;
         request->loop.AwaitConnection(opened);
     }
     if (!request->asked) {
@@ -242,6 +276,9 @@ curl_socket_t TransferRequest::OnOpenSocket(void* self, curlsocktype /*purpose*/
 int TransferRequest::OnCloseSocket(void* self, curl_socket_t socket) {
     auto* request = static_cast<TransferRequest*>(self);
     request->loop.EndAwaiting(socket);
+    if (request->dataSocket == socket) {
+        request->dataSocket = CURL_SOCKET_BAD;
+    }
     if (request->controlSockets.remove(socket) && request->upload.isOpen() && request->report) {
         request->cutReason = LastRefusal(LastWords(socket));
     }

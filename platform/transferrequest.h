@@ -1,10 +1,12 @@
 // The libcurl side of a transfer client: one handle with its event loop and connection, the options
 // of each kind of request, and what the callbacks fill.
 //
-// libcurl waits inside itself for some replies of an FTP server; the window is served from a
-// callback then. So a slot may give a request up, or delete its client, while libcurl is on the
-// stack: the request says nothing more from then on, libcurl is told to stop, and the loop keeps
-// everything alive until it has.
+// At the end of an upload libcurl would wait inside itself for the server's reply, which on a slow
+// line is most of the time that a file takes. So the request ends the data stream itself and pauses
+// until the reply is there. What waits are left inside libcurl, such as for the rest of a reply,
+// serve the window from a callback: a slot may give a request up, or delete its client, while
+// libcurl is on the stack. The request says nothing more from then on, libcurl is told to stop, and
+// the loop keeps everything alive until it has.
 #pragma once
 
 #include "platform/curlloop.h"
@@ -77,6 +79,7 @@ private:
     static int OnConnected(void* self, char* remoteAddress, char* localAddress, int remotePort,
                            int localPort);
 
+    void AwaitReply();
     void Report(int state) const;
     void SetTimeouts(int seconds);
     void SetCallbacks();
@@ -88,7 +91,11 @@ private:
     std::function<void(int)> report; // empty once abandoned
     bool asked = false;              // the request proper has begun, behind connection and log-in
     bool answered = false;
+    int timeoutSeconds = 0;
+    bool allSent = false;     // the data stream of an upload has been ended
+    bool unanswered = false;  // and no reply has come to it in time
     int controlPort = 0;      // of the server; 0 for HTTP
     QSet<int> controlSockets; // open ones
+    curl_socket_t dataSocket = CURL_SOCKET_BAD;
     CurlLoop loop; // the last member: while it goes, connections are closed through the callbacks
 };
