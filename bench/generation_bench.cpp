@@ -205,9 +205,16 @@ QByteArray Design() {
     return design.Bytes();
 }
 
+// Puts the site that was made last aside. Nothing is deleted between two measurements: file systems
+// look at what was deleted lately for every file that they make, at the cost of whoever comes next.
+void PutAside(const QString& folder) {
+    static int count = 0;
+    QDir().rename(folder + "temp", folder + QString("done%1").arg(++count));
+}
+
 // Publishes the folder's store. `lastUpdate`: date of the run before, empty for a whole site.
 Cost Publish(const QString& folder, int languages, const QString& lastUpdate) {
-    QDir(folder + "temp").removeRecursively();
+    PutAside(folder);
     WriteFile(folder + "config/Lumenta/settings.ini",
               QString("[Params]\nDBpath=%1\nUserLangs=%2\nLastWebUpdate=%3\n"
                       "[Templates]\nTemplPath=%1Design.zdt\n")
@@ -296,9 +303,9 @@ void Print(const char* name, int products, int languages, const Cost& cost) {
 }
 
 // One size of catalogue in two and four languages; gives the whole runs.
-std::pair<Cost, Cost> RunSize(int products) {
-    const QTemporaryDir place;
-    const QString folder = place.path() + '/';
+std::pair<Cost, Cost> RunSize(const QTemporaryDir& place, int products) {
+    const QString folder = place.path() + QString("/%1/").arg(products);
+    QDir().mkpath(folder);
     WriteFile(folder + "rows.sql", StoreRows(products));
     WriteFile(folder + "Design.zdt", Design());
     Measure({MAKESTORE_PROGRAM, "Zandora.zdb", SCHEMA_FILE, "rows.sql"}, folder);
@@ -307,7 +314,7 @@ std::pair<Cost, Cost> RunSize(int products) {
         Cost& full = whole[languages / 4];
         full = Publish(folder, languages, QString());
         Print("whole site", products, languages, full);
-        const Cost floor = Floor(folder + "temp/", folder + "floor/");
+        const Cost floor = Floor(folder + "temp/", folder + QString("floor%1/").arg(languages));
         const Cost changed = Publish(folder, languages, "01/01/2026 23:00:00");
         Print("10 changed", products, languages, changed);
         std::printf("  / floor %.2f   changed / whole %.3f   peak / site %.2f\n",
@@ -321,9 +328,7 @@ std::pair<Cost, Cost> RunSize(int products) {
             Print("hugo", products, languages, hugo);
             std::printf("  / hugo: processor %.3f, peak %.3f\n", full.Seconds / hugo.Seconds,
                         full.Peak / hugo.Peak);
-            QDir(site).removeRecursively();
         }
-        QDir(folder + "floor").removeRecursively();
     }
     return {whole[0], whole[1]};
 }
@@ -336,8 +341,9 @@ int main() {
     qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
-    const auto small = RunSize(1000);
-    const auto large = RunSize(10000);
+    const QTemporaryDir place;
+    const auto small = RunSize(place, 1000);
+    const auto large = RunSize(place, 10000);
     std::printf("10,000 / 1,000 products: %.2f   4 / 2 languages: %.2f\n",
                 large.first.Seconds / small.first.Seconds,
                 large.second.Seconds / large.first.Seconds);
