@@ -84,7 +84,7 @@ QString ExpandProductPreview(const QString& productId, int marker, SiteSnapshot&
     CopyTemplateFiles();
     BuildZoneList(snapshot);
     AddCompanyLogos();
-    const QString page = BuildProductPages(productId, marker, false, snapshot);
+    QString page = BuildProductPages(productId, marker, false, snapshot);
     BuildZonePages(snapshot);
     BuildZoneLinks();
     return page;

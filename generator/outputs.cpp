@@ -62,7 +62,7 @@ bool SaveOutput(const QDir& folder, bool besideStore, const OutputFile& output) 
            WriteOutput(folder.filePath(name), output.Data);
 }
 
-constexpr qsizetype kDraftBlock = 1024 * 1024; // bytes
+constexpr qsizetype kDraftBlock = qsizetype{1024} * 1024; // bytes
 
 // The block that drafts are being added to.
 struct DraftBlock {

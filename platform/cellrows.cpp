@@ -11,7 +11,7 @@ namespace {
 
 using TextSize = quint32; // stands in front of the text's bytes
 
-constexpr qsizetype kChunk = 64 * 1024; // bytes
+constexpr qsizetype kChunk = qsizetype{64} * 1024; // bytes
 constexpr qsizetype kLongestShared = 24;
 
 QByteArrayView TextAt(const char* record) {
@@ -145,6 +145,7 @@ Cell CellRows::At(int row, int column) const {
 
 std::vector<Cell> CellRows::Row(int row) const {
     std::vector<Cell> cells;
+    cells.reserve(columns);
     for (int column = 0; column < ColumnCount(); ++column) {
         cells.push_back(At(row, column));
     }

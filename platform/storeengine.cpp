@@ -3,6 +3,7 @@
 #include "platform/presence.h"
 #include "platform/statement.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>

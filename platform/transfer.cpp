@@ -189,7 +189,7 @@ QString TransferClient::GetHeader(const QString& name) const {
 }
 
 QByteArray TransferClient::GetChunk(int size) {
-    const QByteArray chunk = request->body.mid(request->bodyRead, std::max(size, 0));
+    QByteArray chunk = request->body.mid(request->bodyRead, std::max(size, 0));
     request->bodyRead += chunk.size();
     return chunk;
 }

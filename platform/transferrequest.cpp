@@ -207,7 +207,8 @@ void TransferRequest::AwaitReply() {
 // libcurl asks for more when it has sent what it got before.
 size_t TransferRequest::OnRead(char* buffer, size_t size, size_t count, void* self) {
     auto* request = static_cast<TransferRequest*>(self);
-    const qint64 got = request->upload.read(buffer, qint64(size * count));
+    const size_t room = size * count;
+    const qint64 got = request->upload.read(buffer, qint64(room));
     if (got < 0 || request->unanswered) {
         return CURL_READFUNC_ABORT;
     }
@@ -222,23 +223,25 @@ size_t TransferRequest::OnRead(char* buffer, size_t size, size_t count, void* se
 
 size_t TransferRequest::OnBody(const char* data, size_t size, size_t count, void* self) {
     QByteArray& body = static_cast<TransferRequest*>(self)->body;
-    if (body.size() + qsizetype(size * count) > kLargestBody) {
+    const size_t bytes = size * count;
+    if (body.size() + qsizetype(bytes) > kLargestBody) {
         return 0;
     }
-    body.append(data, qsizetype(size * count));
-    return size * count;
+    body.append(data, qsizetype(bytes));
+    return bytes;
 }
 
 size_t TransferRequest::OnHeader(const char* data, size_t size, size_t count, void* self) {
     auto* request = static_cast<TransferRequest*>(self);
-    request->words.AddLine(QByteArray(data, qsizetype(size * count)));
+    const size_t bytes = size * count;
+    request->words.AddLine(QByteArray(data, qsizetype(bytes)));
     request->loop.LookAgain();
     if (request->asked && !request->answered) {
         request->answered = true;
         request->Report(kStateRequestSent);
         request->Report(kStateReceiving);
     }
-    return size * count;
+    return bytes;
 }
 
 // Where libcurl waits without returning to the event loop it comes by here once a second: the

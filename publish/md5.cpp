@@ -1,5 +1,6 @@
 #include "publish/md5.h"
 
+#include <QtEndian>
 #include <array>
 #include <cstring>
 #include <md5.h>
