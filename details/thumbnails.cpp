@@ -70,7 +70,8 @@ void BreakSlot(int slot, const QString& name, const QString& reason) {
 
 QString FileSizeText(const QString& name) {
     const qint64 bytes = QFileInfo(DBpath + name).size();
-    return FormatNumber(double((bytes + kKilobyte - 1) / kKilobyte), kFileSize);
+    const qint64 kilobytes = (bytes + kKilobyte - 1) / kKilobyte; // begun ones count
+    return FormatNumber(double(kilobytes), kFileSize);
 }
 
 void EmptyLargeView(const QString& size, const QString& tip) {

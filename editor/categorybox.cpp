@@ -39,7 +39,7 @@ bool IsTyped(const QString& character) {
 // What the box will hold after the key.
 QString TextAfter(int key, const QString& character) {
     const QLineEdit* box = Box();
-    const QString text = box->text();
+    QString text = box->text();
     const int start = box->selectionStart();
     const auto length = box->selectedText().size();
     if (key == Qt::Key_Backspace) {

@@ -13,6 +13,8 @@
 #include "store/products.h"
 #include "store/store.h"
 
+#include <QShortcut>
+
 namespace {
 
 // %1 is the default language: the list shows descriptions in it, whatever the editor shows.

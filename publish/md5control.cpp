@@ -5,6 +5,7 @@
 #include "platform/ansi.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <set>
 #include <vector>

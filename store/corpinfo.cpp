@@ -33,11 +33,11 @@ template <class Visit> void ForEachField(CorpInfoRecord& record, Visit visit) {
 
 void LoadCorpInfo() {
     RunQuery(kCursorScratch, kCorpInfoStatement);
-    const Recordset& row = adcData[kCursorScratch];
     CorpInfoData = {};
-    if (row.HasRow()) {
-        ForEachField(CorpInfoData,
-                     [&row](const QString& column, QString& value) { value = row.Text(column); });
+    if (adcData[kCursorScratch].HasRow()) {
+        ForEachField(CorpInfoData, [](const QString& column, QString& value) {
+            value = adcData[kCursorScratch].Text(column);
+        });
     }
     LoadShowAPIlogo();
 }
@@ -49,8 +49,9 @@ void SaveCorpInfo(const CorpInfoRecord& record) {
     if (!row.HasRow()) {
         row.AddNew();
     }
-    ForEachField(CorpInfoData,
-                 [&row](const QString& column, QString& value) { row.Set(column, value); });
+    ForEachField(CorpInfoData, [](const QString& column, QString& value) {
+        adcData[kCursorScratch].Set(column, value);
+    });
     row.Update();
     WaitForCursor(row);
 }

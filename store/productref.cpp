@@ -75,7 +75,7 @@ bool IsRefUnique() {
 
 QString UppercaseRef() {
     QLineEdit* box = frmMain->txtProductRef;
-    const QString upper = box->text().toUpper();
+    QString upper = box->text().toUpper();
     if (box->text() != upper) {
         const int caret = box->cursorPosition();
         box->setText(upper);

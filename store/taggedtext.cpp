@@ -1,5 +1,7 @@
 #include "store/taggedtext.h"
 
+#include <QStringList>
+
 QString TaggedText(const QString& text, const QString& language, int index) {
     const QStringList entries = text.split(u'|');
     if (index < 0 || index >= entries.size()) {

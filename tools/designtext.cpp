@@ -23,7 +23,7 @@ bool IsInCodePage(char32_t character) {
 // A line's bytes as text; an error where they are no UTF-8.
 QString DecodeLine(const QByteArray& bytes, const SourcePlace& place, PackReport& report) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder.decode(bytes);
+    QString text = decoder.decode(bytes);
     if (decoder.hasError()) {
         report.Error(place, "el texto no está en UTF-8");
         return {};

@@ -1,6 +1,7 @@
 // Makes the manual that the program opens: makemanual MANUAL.md MANUAL.pdf. Exit code 0 when it was
 // made.
 
+#include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPageLayout>
