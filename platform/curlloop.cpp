@@ -146,8 +146,7 @@ std::unique_ptr<QSocketNotifier> CurlLoop::MakeNotifier(curl_socket_t socket, bo
 void CurlLoop::Act() {
     const std::shared_ptr<void> alive = holder.lock();
     Perform();
-    if (alive.use_count() ==
-        1) { // given up meanwhile; the caller is a part of it, so it goes later
+    if (alive.use_count() == 1) { // given up; the caller is a part of it, so it goes later
         QTimer::singleShot(0, qApp, [alive] {});
     }
 }
@@ -167,8 +166,10 @@ void CurlLoop::Perform() {
     } while (lookAgain);
     busy.invalidate();
     CollectFinished();
-    // Whatever else libcurl leaves to the next call without a socket or a timer that announces it.
-    if (!running.empty() && (!timer->isActive() || timer->remainingTime() > kPulseMilliseconds)) {
+    // Whatever else libcurl leaves to the next call without a socket or a timer that announces it;
+    // nothing while the transfer is paused.
+    if (!running.empty() && !answer &&
+        (!timer->isActive() || timer->remainingTime() > kPulseMilliseconds)) {
         timer->start(kPulseMilliseconds);
     }
 }

@@ -32,8 +32,9 @@ public:
     // can't be a host or has control characters. For hosts as a user may type them see
     // ftpaddress.h.
     void SetServer(const QString& host, const QString& user, const QString& password);
-    void SetRequestTimeout(
-        int seconds); // for a connection, a reply, or a transfer that stands still; 60 at start
+
+    // For a connection, a reply, or a transfer that stands still; 60 at start.
+    void SetRequestTimeout(int seconds);
 
     // Starts an FTP command and returns at once: CD path, MKDIR path, PUT "local file" "remote
     // name" (into the folder of the last CD), CLOSE. The first one connects. A command while

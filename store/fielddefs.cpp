@@ -7,15 +7,10 @@
 #include "store/store.h"
 #include "store/taggedtext.h"
 
-#include <limits>
-
 int FirstHiddenField = 0;
 int MaxFieldDefId = 0;
 
 namespace {
-
-// Slots that have a definition, those of internal fields among them. All while none was ever read.
-int usedSlots = std::numeric_limits<int>::max();
 
 constexpr char kPublicCountStatement[] = "SELECT count(*) FROM ProductFieldDef WHERE Type<>'I'";
 constexpr char kFieldDefsStatement[] = "SELECT * FROM ProductFieldDef ORDER BY FieldDefId";
@@ -131,7 +126,6 @@ void LoadFieldDefs() {
     if (rows == 0) {
         return;
     }
-    usedSlots = rows;
     for (int slot = rows; slot < SlotCount(); ++slot) {
         CloseSlot(slot);
     }
@@ -139,7 +133,7 @@ void LoadFieldDefs() {
 }
 
 void DisableUnusedFields() {
-    for (int slot = usedSlots; slot < SlotCount(); ++slot) {
+    for (int slot = MaxFieldDefId + 1; slot < SlotCount(); ++slot) {
         frmMain->txtFields[slot]->setEnabled(false);
     }
 }
