@@ -36,6 +36,7 @@ std::shared_ptr<StorePresence> StorePresence::Enter(const QString& storePath) {
     if (!opened->IsOpen()) {
         return std::shared_ptr<StorePresence>(new StorePresence(std::move(opened)));
     }
+    std::erase_if(Presences(), [](const auto& entry) { return entry.second.expired(); });
     const FileKey key = KeyOf(*opened);
     if (std::shared_ptr<StorePresence> present = Presences()[key].lock()) {
         return present;
@@ -52,9 +53,9 @@ std::shared_ptr<StorePresence> StorePresence::Enter(const QString& storePath) {
 
 StorePresence::StorePresence(std::unique_ptr<LockFile> opened) : file(std::move(opened)) {}
 
-StorePresence::~StorePresence() {
-    std::erase_if(Presences(), [](const auto& entry) { return entry.second.expired(); });
-}
+// Leaves the list alone: when the toolkit ends the process by itself, as when the screen goes away,
+// open stores outlive it.
+StorePresence::~StorePresence() = default;
 
 bool StorePresence::AnyoneElse() const {
     return file->IsOpen() && file->WouldConflict(kPresenceByte, F_WRLCK);

@@ -6,7 +6,8 @@
 //   config PAGE                 "folder=PATH" types the catalogue's folder and accepts, "cancel"
 //   main TITLE, ...             "reference=TEXT" types over the reference, "minimise", "close";
 //                               "publish=PORT" presses the button with an FTP server at that port,
-//                               "sending" waits until the first file is on its way
+//                               "sending" waits until the first file is on its way; "exit" ends
+//                               the process as the toolkit does when the screen goes away
 //
 // With no more arguments he waits.
 #include "core/startup.h"
@@ -22,6 +23,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -120,6 +122,8 @@ void Act(const QString& action) {
         frmMain->showMinimized();
     } else if (action == "close") {
         frmMain->close();
+    } else if (action == "exit") {
+        std::exit(1);
     }
 }
 

@@ -98,6 +98,12 @@ TEST_F(Startup, OpensTheCatalogueAndKeepsSettingsWhenItIsClosed) {
     EXPECT_TRUE(SettingsText().contains("\nLoanInterest=3.5\n"));
 }
 
+TEST_F(Startup, LosingTheScreenWithTheCatalogueOpenEndsInOrder) {
+    Settings({});
+    EXPECT_EQ(Run({"exit"}), kOpen);
+    EXPECT_EQ(code, 1); // nothing has crashed on the way out
+}
+
 TEST_F(Startup, ClosesAnEmptyCatalogueAndRefusesAnEmptyReference) {
     Make("empty", {});
     Settings({}, "empty");
