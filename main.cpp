@@ -1,4 +1,4 @@
-#include "core/startup.h"
+#include "app/startup.h"
 #include "platform/dialogs.h"
 #include "platform/notify.h"
 

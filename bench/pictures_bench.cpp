@@ -2,10 +2,10 @@
 // 460 by 345, and exactly 120 by 90. CPU time and likeness beside vipsthumbnail and ImageMagick
 // with one thread, from the same source, at the same JPEG quality. Exits with 1 where a goal is
 // missed.
+#include "images/jpegwriter.h"
+#include "images/picturefile.h"
+#include "images/scaling.h"
 #include "pictures/picturesizes.h"
-#include "platform/jpegwriter.h"
-#include "platform/picturefile.h"
-#include "platform/scaling.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,9 +1,9 @@
 // Cursors over a catalogue of 10,000 products in four languages: the product list and the texts of
 // a snapshot against bare reading of the same rows by the engine, filters and saves.
-#include "platform/recordset.h"
-#include "platform/sqltext.h"
-#include "platform/statement.h"
-#include "platform/storeengine.h"
+#include "engine/recordset.h"
+#include "engine/sqltext.h"
+#include "engine/statement.h"
+#include "engine/storeengine.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>

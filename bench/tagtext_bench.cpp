@@ -1,7 +1,7 @@
 // Expansion of one page of 9 KB: a hundred tags are tried, 55 of them stand in it, some more than
 // once; then twelve colour names and the comment in front. The baseline is plain replacing.
-#include "generator/tagtext.h"
-#include "generator/transforms.h"
+#include "site/tagtext.h"
+#include "site/transforms.h"
 
 #include <benchmark/benchmark.h>
 #include <utility>

@@ -1,5 +1,5 @@
-# One folder is one wing and one static library. Every wing compiles under the same flags and
-# shares the precompiled toolkit headers of platform/, so that a change costs one short compile.
+# One folder is one wing and one static library. Every wing compiles under the same flags and shares
+# the precompiled toolkit headers, so that a change costs one short compile.
 
 # The warnings are for our own code alone: system headers are exempt.
 add_library(house_flags INTERFACE)
@@ -7,6 +7,11 @@ target_include_directories(house_flags INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(house_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Werror -fPIC)
 target_compile_definitions(house_flags INTERFACE QT_NO_CAST_FROM_BYTEARRAY)
+target_link_libraries(house_flags INTERFACE Qt6::Widgets Qt6::Network Qt6::Svg)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    # The compiler cache can't tell without it what a precompiled header brings.
+    target_compile_options(house_flags INTERFACE -fpch-preprocess)
+endif()
 if(SANITIZE)
     target_compile_options(house_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
@@ -19,39 +24,41 @@ if(FUZZ)
     target_link_options(house_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+# Nothing but the precompiled headers.
+add_library(toolkit_headers OBJECT ${CMAKE_SOURCE_DIR}/cmake/toolkit.cpp)
+target_link_libraries(toolkit_headers PUBLIC house_flags)
+target_precompile_headers(toolkit_headers PRIVATE ${CMAKE_SOURCE_DIR}/cmake/toolkit.h)
+
 # use_house(TARGET): flags and the shared precompiled headers for any target of ours.
 function(use_house target)
-    target_link_libraries(${target} PUBLIC house_flags Qt6::Widgets Qt6::Network Qt6::Svg)
-    if(target STREQUAL "platform")
-        target_precompile_headers(platform PRIVATE ${CMAKE_SOURCE_DIR}/cmake/toolkit.h)
-    else()
-        target_precompile_headers(${target} REUSE_FROM platform)
-    endif()
+    target_link_libraries(${target} PUBLIC house_flags)
+    target_precompile_headers(${target} REUSE_FROM toolkit_headers)
 endfunction()
 
-# add_wing(NAME SOURCES... [USES wings and libraries...])
+# add_wing(NAME SOURCES... [USES wings and libraries...]): the wings that it uses stand already, so
+# that none can use one above or beside itself.
 function(add_wing name)
     cmake_parse_arguments(WING "" "" "SOURCES;USES" ${ARGN})
-    if(NOT WING_SOURCES)
-        add_library(${name} INTERFACE)
-        return()
-    endif()
     add_library(${name} STATIC ${WING_SOURCES})
     use_house(${name})
+    foreach(used IN LISTS WING_USES)
+        if(NOT TARGET ${used})
+            message(FATAL_ERROR "${name} uses ${used}, which does not stand below it")
+        endif()
+    endforeach()
     target_link_libraries(${name} PUBLIC ${WING_USES})
-    # Wings of one floor use each other, so the linker has to pass over them more than twice.
-    set_property(TARGET ${name} PROPERTY LINK_INTERFACE_MULTIPLICITY 4)
 endfunction()
 
-# add_house_test(NAME SOURCES...): one test program of a wing, every test of it known to ctest.
+# add_house_test(NAME SOURCES...): the test program NAME_test, every test of it known to ctest.
 function(add_house_test name)
-    add_executable(${name} ${ARGN})
-    use_house(${name})
-    target_link_libraries(${name} PRIVATE test_support program GTest::gtest Qt6::Test)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+    add_executable(${name}_test ${ARGN})
+    use_house(${name}_test)
+    target_link_libraries(${name}_test PRIVATE test_support GTest::gtest Qt6::Test)
+    gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
 endfunction()
 
-# The whole program but its main.cpp, for the program, the tools and the tests.
-add_library(program INTERFACE)
-target_link_libraries(program INTERFACE
-    editor details config publish generator pictures store core forms platform)
+# add_wing_test(WING SOURCES...): the same for a wing, linked with it and what it stands on.
+function(add_wing_test wing)
+    add_house_test(${wing} ${ARGN})
+    target_link_libraries(${wing}_test PRIVATE ${wing})
+endfunction()

@@ -6,19 +6,19 @@
 #include "core/flavour.h"
 #include "core/settings.h"
 #include "core/vocabulary.h"
+#include "details/about.h"
 #include "details/languages.h"
-#include "editor/about.h"
 #include "editor/productlist.h"
 #include "forms/configform.h"
 #include "forms/mainform.h"
 #include "platform/dialogs.h"
 #include "platform/fileops.h"
 #include "platform/shell.h"
-#include "platform/transfer.h"
 #include "publish/ftp.h"
 #include "store/corpinfo.h"
 #include "store/products.h"
 #include "store/store.h"
+#include "transfer/transfer.h"
 
 #include <QScopedValueRollback>
 

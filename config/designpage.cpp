@@ -2,9 +2,9 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
+#include "details/templatepreview.h"
 #include "forms/configform.h"
 #include "forms/look.h"
-#include "generator/templatepreview.h"
 #include "platform/controls.h"
 #include "platform/dialogs.h"
 #include "store/languages.h"

@@ -1,7 +1,7 @@
 #include "core/flavour.h"
 
-#include "platform/ansi.h"
 #include "platform/notify.h"
+#include "text/ansi.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,8 +3,8 @@
 #include "core/addresses.h"
 #include "core/flavour.h"
 #include "platform/fileops.h"
-#include "platform/numbers.h"
 #include "platform/usersettings.h"
+#include "text/numbers.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

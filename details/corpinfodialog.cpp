@@ -2,21 +2,21 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
+#include "details/about.h"
 #include "details/languages.h"
-#include "editor/about.h"
+#include "engine/storeerror.h"
 #include "forms/corpinfoform.h"
 #include "forms/mainform.h"
-#include "generator/generate.h"
+#include "images/picturefile.h"
 #include "platform/controls.h"
-#include "platform/dates.h"
 #include "platform/dialogs.h"
 #include "platform/fileops.h"
-#include "platform/picturefile.h"
 #include "platform/shell.h"
-#include "platform/storeerror.h"
+#include "publish/generate.h"
 #include "store/corpinfo.h"
 #include "store/langvalues.h"
 #include "store/snapshot.h"
+#include "text/dates.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "details/languages.h"
 
 #include "core/settings.h"
+#include "engine/storeerror.h"
 #include "forms/mainform.h"
 #include "platform/controls.h"
-#include "platform/storeerror.h"
 #include "store/languages.h"
 #include "store/langvalues.h"
 

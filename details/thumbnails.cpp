@@ -4,12 +4,12 @@
 #include "core/settings.h"
 #include "forms/look.h"
 #include "forms/picturesform.h"
+#include "images/picturefile.h"
 #include "platform/controls.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
-#include "platform/numbers.h"
-#include "platform/picturefile.h"
 #include "store/store.h"
+#include "text/numbers.h"
 
 #include <QFileInfo>
 #include <QHash>

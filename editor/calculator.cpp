@@ -4,7 +4,7 @@
 #include "forms/calcform.h"
 #include "forms/mainform.h"
 #include "platform/dialogs.h"
-#include "platform/numbers.h"
+#include "text/numbers.h"
 
 #include <cmath>
 

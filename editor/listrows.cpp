@@ -2,9 +2,9 @@
 
 #include "forms/mainform.h"
 #include "platform/controls.h"
-#include "platform/numbers.h"
 #include "store/formstate.h"
 #include "store/products.h"
+#include "text/numbers.h"
 
 std::vector<int> ProductIds;
 QString CurrentListSQL;

@@ -11,11 +11,11 @@
 #include "platform/controls.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
-#include "platform/numbers.h"
 #include "store/formstate.h"
 #include "store/productref.h"
 #include "store/products.h"
 #include "store/store.h"
+#include "text/numbers.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include "platform/controls.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
-#include "platform/numbers.h"
 #include "store/formstate.h"
 #include "store/products.h"
 #include "store/store.h"
+#include "text/numbers.h"
 
 #include <QShortcut>
 

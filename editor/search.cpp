@@ -6,8 +6,8 @@
 #include "forms/mainform.h"
 #include "forms/searchform.h"
 #include "platform/dialogs.h"
-#include "platform/numbers.h"
 #include "store/store.h"
+#include "text/numbers.h"
 
 namespace {
 

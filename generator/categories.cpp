@@ -2,11 +2,11 @@
 
 #include "generator/choices.h"
 #include "generator/fieldvalues.h"
-#include "generator/tagtext.h"
-#include "generator/template.h"
-#include "generator/transforms.h"
-#include "generator/weblangs.h"
-#include "platform/ansi.h"
+#include "site/tagtext.h"
+#include "site/template.h"
+#include "site/transforms.h"
+#include "site/weblangs.h"
+#include "text/ansi.h"
 
 using namespace Qt::StringLiterals;
 

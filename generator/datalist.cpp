@@ -1,13 +1,13 @@
 #include "generator/datalist.h"
 
 #include "generator/categories.h"
-#include "generator/outputs.h"
 #include "generator/siteproduct.h"
-#include "generator/template.h"
-#include "generator/transforms.h"
-#include "generator/weblangs.h"
 #include "generator/zones.h"
-#include "platform/ansi.h"
+#include "site/outputs.h"
+#include "site/template.h"
+#include "site/transforms.h"
+#include "site/weblangs.h"
+#include "text/ansi.h"
 
 using namespace Qt::StringLiterals;
 

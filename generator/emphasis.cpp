@@ -1,9 +1,9 @@
 #include "generator/emphasis.h"
 
 #include "generator/siteproduct.h"
-#include "generator/template.h"
-#include "generator/weblangs.h"
-#include "platform/ansi.h"
+#include "site/template.h"
+#include "site/weblangs.h"
+#include "text/ansi.h"
 
 std::vector<EmphasisBlock> EmphasisBlock1;
 std::vector<EmphasisBlock> EmphasisBlock2;

@@ -1,9 +1,9 @@
 #include "generator/fieldvalues.h"
 
-#include "generator/transforms.h"
-#include "platform/ansi.h"
-#include "platform/numbers.h"
+#include "site/transforms.h"
 #include "store/taggedtext.h"
+#include "text/ansi.h"
+#include "text/numbers.h"
 
 #include <limits>
 

@@ -2,7 +2,7 @@
 // that every page, block and list of products is filled from. Owns ActiveFieldDefs.
 #pragma once
 
-#include "generator/tagtext.h"
+#include "site/tagtext.h"
 #include "store/snapshot.h"
 
 #include <QByteArray>

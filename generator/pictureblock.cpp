@@ -1,8 +1,8 @@
 #include "generator/pictureblock.h"
 
-#include "generator/outputs.h"
-#include "generator/transforms.h"
-#include "platform/ansi.h"
+#include "site/outputs.h"
+#include "site/transforms.h"
+#include "text/ansi.h"
 
 using namespace Qt::StringLiterals;
 

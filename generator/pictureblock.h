@@ -3,8 +3,8 @@
 #pragma once
 
 #include "generator/fieldvalues.h"
-#include "generator/tagtext.h"
-#include "generator/template.h"
+#include "site/tagtext.h"
+#include "site/template.h"
 
 #include <QByteArray>
 #include <QString>

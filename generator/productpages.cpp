@@ -1,18 +1,18 @@
 #include "generator/productpages.h"
 
 #include "core/settings.h"
-#include "generator/outputs.h"
 #include "generator/pictureblock.h"
 #include "generator/siteproduct.h"
-#include "generator/template.h"
-#include "generator/transforms.h"
-#include "generator/weblangs.h"
 #include "generator/zones.h"
 #include "pictures/productpictures.h"
-#include "platform/ansi.h"
-#include "platform/dates.h"
-#include "publish/abort.h"
-#include "publish/steps.h"
+#include "site/abort.h"
+#include "site/outputs.h"
+#include "site/steps.h"
+#include "site/template.h"
+#include "site/transforms.h"
+#include "site/weblangs.h"
+#include "text/ansi.h"
+#include "text/dates.h"
 
 using namespace Qt::StringLiterals;
 

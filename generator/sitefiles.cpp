@@ -1,10 +1,10 @@
 #include "generator/sitefiles.h"
 
 #include "core/settings.h"
-#include "generator/outputs.h"
-#include "generator/template.h"
-#include "generator/transforms.h"
-#include "generator/weblangs.h"
+#include "site/outputs.h"
+#include "site/template.h"
+#include "site/transforms.h"
+#include "site/weblangs.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "generator/siteproduct.h"
 
-#include "platform/ansi.h"
-#include "platform/numbers.h"
+#include "text/ansi.h"
+#include "text/numbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "generator/fieldvalues.h"
-#include "generator/tagtext.h"
+#include "site/tagtext.h"
 #include "store/snapshot.h"
 
 #include <QString>

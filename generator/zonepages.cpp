@@ -1,11 +1,11 @@
 #include "generator/zonepages.h"
 
-#include "generator/outputs.h"
 #include "generator/siteproduct.h"
-#include "generator/template.h"
-#include "generator/transforms.h"
 #include "generator/zones.h"
-#include "platform/ansi.h"
+#include "site/outputs.h"
+#include "site/template.h"
+#include "site/transforms.h"
+#include "text/ansi.h"
 
 std::vector<ZonePageBlockRecord> ZonePageBlock;
 

@@ -1,8 +1,8 @@
 #include "pictures/picturesizes.h"
 
-#include "generator/transforms.h"
-#include "platform/numbers.h"
-#include "platform/picture.h"
+#include "images/picture.h"
+#include "site/transforms.h"
+#include "text/numbers.h"
 
 namespace {
 

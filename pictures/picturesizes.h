@@ -3,7 +3,7 @@
 // proportions kept.
 #pragma once
 
-#include "generator/template.h"
+#include "site/template.h"
 
 #include <QSize>
 #include <optional>

@@ -1,12 +1,12 @@
 #include "pictures/productpictures.h"
 
 #include "core/settings.h"
-#include "generator/transforms.h"
-#include "platform/ansi.h"
-#include "platform/jpegwriter.h"
-#include "platform/picturefile.h"
-#include "platform/scaling.h"
+#include "images/jpegwriter.h"
+#include "images/picturefile.h"
+#include "images/scaling.h"
+#include "site/transforms.h"
 #include "store/corpinfo.h"
+#include "text/ansi.h"
 
 namespace {
 

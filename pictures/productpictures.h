@@ -3,10 +3,10 @@
 // tells the user where to find the picture.
 #pragma once
 
-#include "generator/outputs.h"
-#include "generator/template.h"
+#include "engine/recordset.h"
 #include "pictures/picturesizes.h"
-#include "platform/recordset.h"
+#include "site/outputs.h"
+#include "site/template.h"
 
 // The picture of the row (of Pictures) on which `pictures` stands, as the section demands. Without
 // a demand the file has neither name nor data. %%PICTUREID%% in the section's Name is the row's.

@@ -1,10 +1,10 @@
 #include "publish/delivery.h"
 
 #include "core/settings.h"
-#include "generator/outputs.h"
-#include "publish/abort.h"
 #include "publish/ftp.h"
-#include "publish/steps.h"
+#include "site/abort.h"
+#include "site/outputs.h"
+#include "site/steps.h"
 
 namespace {
 

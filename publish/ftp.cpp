@@ -3,14 +3,14 @@
 #include "core/flavour.h"
 #include "core/settings.h"
 #include "forms/mainform.h"
-#include "generator/transforms.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/fileops.h"
-#include "platform/transfer.h"
-#include "publish/abort.h"
 #include "publish/md5control.h"
-#include "publish/steps.h"
+#include "site/abort.h"
+#include "site/steps.h"
+#include "site/transforms.h"
+#include "transfer/transfer.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -2,7 +2,7 @@
 // exists, and sends each changed file through a staging file in the store's folder.
 #pragma once
 
-#include "generator/outputs.h"
+#include "site/outputs.h"
 
 #include <QString>
 #include <vector>

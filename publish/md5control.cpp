@@ -1,8 +1,8 @@
 #include "publish/md5control.h"
 
 #include "core/settings.h"
-#include "generator/transforms.h"
-#include "platform/ansi.h"
+#include "site/transforms.h"
+#include "text/ansi.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 #include "store/maintenance.h"
 
 #include "core/settings.h"
+#include "engine/presence.h"
+#include "engine/storeengine.h"
 #include "platform/fileops.h"
-#include "platform/presence.h"
-#include "platform/storeengine.h"
 
 #include <QFile>
 

@@ -2,18 +2,18 @@
 
 #include "core/settings.h"
 #include "core/vocabulary.h"
+#include "engine/statement.h"
+#include "engine/storeengine.h"
 #include "forms/mainform.h"
 #include "forms/picturesform.h"
 #include "platform/controls.h"
-#include "platform/dates.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/fileops.h"
-#include "platform/numbers.h"
-#include "platform/statement.h"
-#include "platform/storeengine.h"
 #include "store/langvalues.h"
 #include "store/store.h"
+#include "text/dates.h"
+#include "text/numbers.h"
 
 namespace {
 

@@ -3,11 +3,11 @@
 #include "core/flavour.h"
 #include "core/vocabulary.h"
 #include "forms/mainform.h"
-#include "platform/dates.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "store/formstate.h"
 #include "store/store.h"
+#include "text/dates.h"
 
 namespace {
 

@@ -1,20 +1,20 @@
 #include "store/products.h"
 
 #include "core/settings.h"
+#include "engine/statement.h"
+#include "engine/storeengine.h"
 #include "forms/mainform.h"
 #include "platform/controls.h"
-#include "platform/dates.h"
 #include "platform/events.h"
 #include "platform/fileops.h"
-#include "platform/numbers.h"
-#include "platform/statement.h"
-#include "platform/storeengine.h"
 #include "store/fielddefs.h"
 #include "store/formstate.h"
 #include "store/langvalues.h"
 #include "store/picturerecords.h"
 #include "store/productref.h"
 #include "store/store.h"
+#include "text/dates.h"
+#include "text/numbers.h"
 
 namespace {
 

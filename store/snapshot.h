@@ -2,7 +2,7 @@
 // the generator can filter and walk at will while the open product and the list stay untouched.
 #pragma once
 
-#include "platform/recordset.h"
+#include "engine/recordset.h"
 
 #include <vector>
 

@@ -2,14 +2,14 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
+#include "engine/storeengine.h"
 #include "forms/mainform.h"
 #include "forms/picturesform.h"
-#include "platform/dates.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/process.h"
-#include "platform/storeengine.h"
 #include "store/maintenance.h"
+#include "text/dates.h"
 
 std::array<Recordset, kCursorCount + 1> adcData;
 bool StoreOpen = false;

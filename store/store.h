@@ -2,7 +2,7 @@
 // and writes. Each cursor has one role for the whole run. Owns adcData and StoreOpen.
 #pragma once
 
-#include "platform/recordset.h"
+#include "engine/recordset.h"
 
 #include <array>
 

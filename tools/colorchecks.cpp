@@ -1,9 +1,9 @@
 #include "tools/colorchecks.h"
 
-#include "generator/styles.h"
-#include "generator/transforms.h"
-#include "platform/ansi.h"
-#include "platform/numbers.h"
+#include "site/styles.h"
+#include "site/transforms.h"
+#include "text/ansi.h"
+#include "text/numbers.h"
 #include "tools/paramchecks.h"
 
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "tools/design.h"
 
-#include "generator/transforms.h"
-#include "platform/ansi.h"
+#include "site/transforms.h"
+#include "text/ansi.h"
 #include "tools/wordtable.h"
 
 #include <QFileInfo>

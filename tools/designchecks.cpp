@@ -1,9 +1,9 @@
 #include "tools/designchecks.h"
 
-#include "generator/outputs.h"
-#include "generator/transforms.h"
-#include "platform/ansi.h"
-#include "platform/picturefile.h"
+#include "images/picturefile.h"
+#include "site/outputs.h"
+#include "site/transforms.h"
+#include "text/ansi.h"
 #include "tools/colorchecks.h"
 #include "tools/paramchecks.h"
 

@@ -1,6 +1,6 @@
 #include "tools/designfile.h"
 
-#include "platform/ansi.h"
+#include "text/ansi.h"
 #include "tools/designchecks.h"
 #include "tools/tagchecks.h"
 

@@ -1,7 +1,7 @@
 // The kinds of sections as a design maker knows them.
 #pragma once
 
-#include "generator/template.h"
+#include "site/template.h"
 
 #include <QString>
 

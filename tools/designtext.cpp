@@ -1,6 +1,6 @@
 #include "tools/designtext.h"
 
-#include "platform/ansi.h"
+#include "text/ansi.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -5,8 +5,8 @@
 // it). sector.dat holds them in Windows-1252, separated by CR LF, every byte complemented against
 // 255, and one more byte at the end, which readers cut.
 #include "core/flavour.h"
-#include "platform/ansi.h"
 #include "platform/fileops.h"
+#include "text/ansi.h"
 
 #include <QFile>
 #include <cstdio>

@@ -4,7 +4,7 @@
 // beside its place and is moved there when it is whole, so that even a killed run leaves no half
 // store. A store that exists is left alone. Exit code 0 when the store was made, 1 when it wasn't,
 // 2 when the arguments are wrong.
-#include "platform/storeengine.h"
+#include "engine/storeengine.h"
 
 #include <QFile>
 #include <QStringDecoder>

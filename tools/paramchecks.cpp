@@ -1,6 +1,6 @@
 #include "tools/paramchecks.h"
 
-#include "generator/transforms.h"
+#include "site/transforms.h"
 
 #include <QRegularExpression>
 #include <limits>

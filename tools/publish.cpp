@@ -2,15 +2,15 @@
 // start-up, the same button. Steps and outcome go to the terminal; the exit code is 0 only if the
 // site reached its destination.
 
+#include "app/startup.h"
+#include "app/workflow.h"
 #include "core/settings.h"
-#include "core/startup.h"
-#include "generator/outputs.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/notify.h"
 #include "platform/process.h"
-#include "publish/steps.h"
-#include "publish/workflow.h"
+#include "site/outputs.h"
+#include "site/steps.h"
 
 #include <QFileInfo>
 #include <cstdio>

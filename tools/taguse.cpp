@@ -1,6 +1,6 @@
 #include "tools/taguse.h"
 
-#include "platform/ansi.h"
+#include "text/ansi.h"
 
 #include <QRegularExpression>
 

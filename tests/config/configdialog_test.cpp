@@ -4,12 +4,12 @@
 #include "editor/productlist.h"
 #include "forms/configform.h"
 #include "forms/mainform.h"
-#include "platform/transfer.h"
 #include "platform/usersettings.h"
 #include "store/corpinfo.h"
 #include "tests/support/boxes.h"
 #include "tests/support/program.h"
 #include "tests/support/templatebuilder.h"
+#include "transfer/transfer.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>

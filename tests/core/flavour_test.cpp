@@ -1,7 +1,7 @@
 #include "core/flavour.h"
 
-#include "platform/ansi.h"
 #include "tests/support/files.h"
+#include "text/ansi.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // gets no lock file beside it.
 #pragma once
 
-#include "platform/recordset.h"
-#include "platform/storeengine.h"
+#include "engine/recordset.h"
+#include "engine/storeengine.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
-#include "platform/ansi.h"
 #include "store/langvalues.h"
 #include "store/taggedtext.h"
 #include "tests/delivery/deliveredstore.h"
+#include "text/ansi.h"
 
 #include <gtest/gtest.h>
 

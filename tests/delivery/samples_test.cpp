@@ -1,4 +1,4 @@
-#include "platform/picturefile.h"
+#include "images/picturefile.h"
 #include "tests/delivery/deliveredstore.h"
 
 #include <gtest/gtest.h>

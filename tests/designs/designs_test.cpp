@@ -1,9 +1,9 @@
 #include "core/settings.h"
 #include "forms/mainform.h"
-#include "generator/generate.h"
-#include "platform/ansi.h"
+#include "publish/generate.h"
 #include "tests/designs/sitechecks.h"
 #include "tests/support/catalogue.h"
+#include "text/ansi.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #include "tests/designs/sitechecks.h"
 
-#include "platform/ansi.h"
+#include "text/ansi.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,5 +1,5 @@
 // Any bytes as a picture: they give a picture within its limits or PictureError, nothing else.
-#include "platform/picturefile.h"
+#include "images/picturefile.h"
 
 #include <QCoreApplication>
 #include <cstdlib>

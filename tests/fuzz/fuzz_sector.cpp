@@ -1,7 +1,7 @@
 // Flavour files come from whoever prepares a flavour: any bytes give lines, and no byte but the
 // last one is lost on the way.
 #include "core/flavour.h"
-#include "platform/ansi.h"
+#include "text/ansi.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 // What servers say comes from anywhere: headers and replies of any bytes are read, headers found by
 // their names, and nothing that a message box shows is longer than it may be.
-#include "platform/serverwords.h"
+#include "transfer/serverwords.h"
 
 #include <cstdlib>
 

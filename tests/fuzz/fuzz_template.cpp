@@ -1,9 +1,9 @@
 // Design files come from anywhere: whatever their bytes say, the reader refuses them or what it
 // loads can be used.
-#include "generator/styles.h"
-#include "generator/template.h"
-#include "generator/weblangs.h"
 #include "platform/dialogs.h"
+#include "site/styles.h"
+#include "site/template.h"
+#include "site/weblangs.h"
 
 #include <QBuffer>
 

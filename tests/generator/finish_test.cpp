@@ -3,16 +3,16 @@
 #include "core/settings.h"
 #include "generator/choices.h"
 #include "generator/emphasis.h"
-#include "generator/outputs.h"
-#include "generator/styles.h"
-#include "generator/template.h"
-#include "generator/weblangs.h"
 #include "generator/zones.h"
-#include "platform/dates.h"
-#include "publish/abort.h"
-#include "publish/md5.h"
+#include "site/abort.h"
+#include "site/md5.h"
+#include "site/outputs.h"
+#include "site/styles.h"
+#include "site/template.h"
+#include "site/weblangs.h"
 #include "store/corpinfo.h"
 #include "tests/generator/sitefixture.h"
+#include "text/dates.h"
 
 namespace {
 

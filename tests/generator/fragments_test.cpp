@@ -1,13 +1,13 @@
 #include "core/settings.h"
 #include "generator/categories.h"
 #include "generator/choices.h"
-#include "generator/styles.h"
-#include "generator/tagtext.h"
-#include "generator/template.h"
-#include "generator/weblangs.h"
 #include "generator/zones.h"
-#include "platform/ansi.h"
+#include "site/styles.h"
+#include "site/tagtext.h"
+#include "site/template.h"
+#include "site/weblangs.h"
 #include "tests/generator/sitefixture.h"
+#include "text/ansi.h"
 
 #include <stdexcept>
 

@@ -1,9 +1,9 @@
 #include "generator/datalist.h"
 #include "generator/emphasis.h"
-#include "generator/outputs.h"
-#include "generator/template.h"
 #include "generator/zonepages.h"
 #include "generator/zones.h"
+#include "site/outputs.h"
+#include "site/template.h"
 #include "tests/generator/sitefixture.h"
 
 namespace {

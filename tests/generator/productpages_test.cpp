@@ -3,10 +3,10 @@
 #include "core/settings.h"
 #include "generator/fieldvalues.h"
 #include "generator/finish.h"
-#include "generator/outputs.h"
-#include "generator/template.h"
 #include "generator/zones.h"
-#include "publish/abort.h"
+#include "site/abort.h"
+#include "site/outputs.h"
+#include "site/template.h"
 #include "tests/generator/sitefixture.h"
 
 namespace {

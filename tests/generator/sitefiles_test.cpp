@@ -1,9 +1,9 @@
 #include "generator/sitefiles.h"
 
 #include "core/settings.h"
-#include "generator/outputs.h"
-#include "generator/template.h"
-#include "generator/transforms.h"
+#include "site/outputs.h"
+#include "site/template.h"
+#include "site/transforms.h"
 #include "tests/generator/sitefixture.h"
 
 namespace {

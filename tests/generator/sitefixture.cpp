@@ -5,14 +5,14 @@
 #include "generator/choices.h"
 #include "generator/emphasis.h"
 #include "generator/fieldvalues.h"
-#include "generator/outputs.h"
-#include "generator/styles.h"
-#include "generator/transforms.h"
-#include "generator/weblangs.h"
 #include "generator/zonepages.h"
 #include "generator/zones.h"
-#include "platform/numbers.h"
-#include "publish/abort.h"
+#include "site/abort.h"
+#include "site/outputs.h"
+#include "site/styles.h"
+#include "site/transforms.h"
+#include "site/weblangs.h"
+#include "text/numbers.h"
 
 std::unique_ptr<MainForm> SiteFixture::form;
 

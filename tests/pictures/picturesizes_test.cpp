@@ -1,5 +1,5 @@
+#include "images/picture.h"
 #include "pictures/picturesizes.h"
-#include "platform/picture.h"
 
 #include <gtest/gtest.h>
 

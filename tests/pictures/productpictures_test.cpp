@@ -1,6 +1,6 @@
 #include "core/settings.h"
+#include "images/picture.h"
 #include "pictures/productpictures.h"
-#include "platform/picture.h"
 #include "store/corpinfo.h"
 #include "store/snapshot.h"
 #include "tests/support/catalogue.h"

@@ -1,10 +1,11 @@
 // A second start that raises the first, and one after a crash, are tested with whole programs.
 #include "platform/instance.h"
 
-#include "storefixture.h"
+#include "tests/support/otherprocess.h"
 
 #include <QDir>
 #include <QScopeGuard>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 TEST(Instance, PlaceIsOneWithoutARuntimeFolderToo) {

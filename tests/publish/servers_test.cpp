@@ -1,13 +1,13 @@
 #include "core/settings.h"
 #include "forms/mainform.h"
-#include "platform/transfer.h"
-#include "publish/abort.h"
 #include "publish/ftp.h"
-#include "publish/md5.h"
 #include "publish/md5control.h"
-#include "publish/steps.h"
+#include "site/abort.h"
+#include "site/md5.h"
+#include "site/steps.h"
 #include "tests/support/boxes.h"
 #include "tests/support/realservers.h"
+#include "transfer/transfer.h"
 
 #include <QRegularExpression>
 #include <QTcpServer>

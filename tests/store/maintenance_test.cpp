@@ -1,7 +1,7 @@
 #include "store/maintenance.h"
 
 #include "core/settings.h"
-#include "platform/storeengine.h"
+#include "engine/storeengine.h"
 #include "store/store.h"
 #include "tests/support/catalogue.h"
 #include "tests/support/files.h"

@@ -2,10 +2,10 @@
 #include "store/picturerecords.h"
 
 #include "core/settings.h"
+#include "engine/storeerror.h"
 #include "forms/mainform.h"
 #include "forms/picturesform.h"
 #include "platform/controls.h"
-#include "platform/storeerror.h"
 #include "store/langvalues.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"

@@ -5,12 +5,12 @@
 #include "editor/productlist.h"
 #include "forms/mainform.h"
 #include "platform/controls.h"
-#include "platform/dates.h"
 #include "store/langvalues.h"
 #include "store/store.h"
 #include "tests/support/boxes.h"
 #include "tests/support/files.h"
 #include "tests/support/program.h"
+#include "text/dates.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "tests/support/catalogue.h"
 
 #include "core/settings.h"
-#include "platform/storeengine.h"
+#include "engine/storeengine.h"
 #include "store/corpinfo.h"
 #include "store/fielddefs.h"
 #include "store/store.h"

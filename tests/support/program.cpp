@@ -1,20 +1,20 @@
 #include "tests/support/program.h"
 
+#include "app/mainscreen.h"
 #include "core/flavour.h"
 #include "core/settings.h"
 #include "core/vocabulary.h"
 #include "details/languages.h"
-#include "editor/mainscreen.h"
 #include "editor/productlist.h"
+#include "engine/statement.h"
+#include "engine/storeengine.h"
 #include "forms/mainform.h"
 #include "platform/events.h"
-#include "platform/numbers.h"
-#include "platform/statement.h"
-#include "platform/storeengine.h"
 #include "store/fielddefs.h"
 #include "store/languages.h"
 #include "store/store.h"
 #include "tests/support/files.h"
+#include "text/numbers.h"
 
 #include <QDialog>
 #include <QFileInfo>

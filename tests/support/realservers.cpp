@@ -1,6 +1,6 @@
 #include "tests/support/realservers.h"
 
-#include "platform/ansi.h"
+#include "text/ansi.h"
 
 #include <QFile>
 #include <QRandomGenerator>

@@ -1,8 +1,8 @@
 #include "tests/support/templatebuilder.h"
 
-#include "generator/template.h"
-#include "platform/ansi.h"
+#include "site/template.h"
 #include "tests/support/files.h"
+#include "text/ansi.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "tests/support/testpictures.h"
 
-#include "platform/picturefile.h"
+#include "images/picturefile.h"
 
 #include <QPainter>
 #include <QtEndian>

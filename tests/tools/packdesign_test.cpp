@@ -1,4 +1,4 @@
-#include "generator/template.h"
+#include "site/template.h"
 #include "tests/support/files.h"
 #include "tests/support/testpictures.h"
 #include "tools/designfile.h"

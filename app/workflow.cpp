@@ -1,0 +1,138 @@
+#include "app/workflow.h"
+
+#include "core/flavour.h"
+#include "core/settings.h"
+#include "details/webpreview.h"
+#include "editor/buttons.h"
+#include "forms/mainform.h"
+#include "platform/controls.h"
+#include "platform/dialogs.h"
+#include "publish/generate.h"
+#include "site/abort.h"
+#include "site/steps.h"
+#include "store/fielddefs.h"
+#include "store/snapshot.h"
+#include "text/dates.h"
+
+PublishOutcome LastOutcome = PublishOutcome::None;
+
+namespace {
+
+constexpr int kButtonUpdate = 0;
+constexpr int kButtonCancel = 1;
+constexpr int kStorageLocal = 0;
+constexpr int kOptionChanged = 0;
+constexpr int kOptionAll = 1;
+
+// A run is under way: after a cancel the button is back before the run has noticed, and must not
+// start another one inside it.
+bool publishing = false;
+
+void ShowButton(int shown, int hidden) {
+    frmMain->cmdUpdateWeb[shown]->setVisible(true);
+    frmMain->cmdUpdateWeb[shown]->setFocus();
+    frmMain->cmdUpdateWeb[hidden]->setVisible(false);
+}
+
+void ShowBusy(bool busy) {
+    if (busy) {
+        ShowButton(kButtonCancel, kButtonUpdate);
+    }
+    EnableWhileBusy("cmdUpdateWeb", !busy, frmMain);
+    if (!busy) {
+        DisableUnusedFields();
+        RefreshButtons();
+        ShowButton(kButtonUpdate, kButtonCancel);
+    }
+}
+
+void RecordSuccess() {
+    SetLastWebUpdate(DateText(Now()));
+    ClearDeletedItems();
+    SaveSettings();
+}
+
+// True if the site reached its destination. What no stage handles ends the run as a failed step.
+bool RunGeneration() {
+    SiteSnapshot snapshot;
+    bool delivered = false;
+    try {
+        TakeSiteSnapshot(snapshot);
+        // A cancel may have come since the press of the button: then nothing begins.
+        delivered = !AbortPublish && GenerateSite(TemplPath, snapshot);
+    } catch (const std::exception& failure) {
+        StepFailed();
+        MsgBox(QString::fromUtf8(failure.what()), BoxIcon::Warning, AppName);
+    }
+    DropSiteSnapshot(snapshot);
+    return delivered;
+}
+
+// What the page says until the next run; `before` where the run ended before its first step.
+QString OutcomeText(const QString& before) {
+    if (LastOutcome == PublishOutcome::Delivered) {
+        return AnyStepFailed() ? QStringLiteral("La actualización ha terminado con errores.")
+                               : "Última actualización: " + LastWebUpdate;
+    }
+    if (AbortPublish) {
+        return "Actualización cancelada.";
+    }
+    return AnyStepFailed() ? QStringLiteral("No se ha podido actualizar la web.") : before;
+}
+
+void Publish() {
+    const QString before = frmMain->lblInfo->text();
+    frmMain->lblInfo->setText("Actualizando la web...");
+    frmMain->lblRemaining->clear();
+    LastOutcome = RunGeneration() ? PublishOutcome::Delivered : PublishOutcome::NotDelivered;
+    publishing = false;
+    if (LastOutcome == PublishOutcome::Delivered) {
+        RecordSuccess();
+    } else {
+        EndSteps();
+    }
+    frmMain->lblInfo->setText(OutcomeText(before));
+    if (AnyStepFailed()) {
+        frmMain->lblRemaining->clear(); // nothing remains of a run that was given up
+    }
+    if (LastOutcome == PublishOutcome::Delivered && StorageMethod == kStorageLocal) {
+        ShowWebPreview(StoragePath + "index.html");
+    }
+}
+
+} // namespace
+
+void ConnectPublish() {
+    for (int index : {kButtonUpdate, kButtonCancel}) {
+        QObject::connect(frmMain->cmdUpdateWeb[index], &QPushButton::clicked, frmMain,
+                         [index] { cmdUpdateWeb_Click(index); });
+    }
+}
+
+void cmdUpdateWeb_Click(int index) {
+    // Disabling disturbs the choice, so it is noted and set again.
+    const bool wholeSite = frmMain->optAllOrChanged[kOptionAll]->isChecked();
+    QRadioButton* chosen = frmMain->optAllOrChanged[wholeSite ? kOptionAll : kOptionChanged];
+    if (index == kButtonUpdate && publishing) {
+        return;
+    }
+    if (index == kButtonUpdate) {
+        publishing = true;
+        SetAbortPublish(false);
+        ShowBusy(true);
+        chosen->setChecked(true);
+        Publish();
+    } else {
+        if (publishing) {
+            frmMain->lblInfo->setText("Cancelando la actualización...");
+        }
+        CancelPublish();
+    }
+    ShowBusy(false);
+    chosen->setChecked(true);
+}
+
+void CancelPublish() {
+    SetAbortPublish(true);
+    StepFailed();
+}

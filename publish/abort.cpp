@@ -1,7 +1,0 @@
-#include "publish/abort.h"
-
-bool AbortPublish = false;
-
-void SetAbortPublish(bool abort) {
-    AbortPublish = abort;
-}

@@ -1,0 +1,7 @@
+#include "site/abort.h"
+
+bool AbortPublish = false;
+
+void SetAbortPublish(bool abort) {
+    AbortPublish = abort;
+}

@@ -1,0 +1,448 @@
+// The button "Actualizar ahora" from the first click to the end of the run: what has reached the
+// destination, what is remembered and what the user has before him, for each way a run can end.
+#include "app/workflow.h"
+
+#include "app/mainscreen.h"
+#include "core/settings.h"
+#include "forms/mainform.h"
+#include "forms/webpreviewform.h"
+#include "publish/ftp.h"
+#include "publish/md5control.h"
+#include "site/abort.h"
+#include "site/outputs.h"
+#include "site/steps.h"
+#include "site/template.h"
+#include "tests/support/boxes.h"
+#include "tests/support/ftpserver.h"
+#include "tests/support/program.h"
+#include "tests/support/templatebuilder.h"
+#include "text/dates.h"
+#include "transfer/transfer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kUpdate = 0;
+constexpr int kCancel = 1;
+constexpr int kPageCatalogue = 0;
+constexpr int kPagePublish = 1;
+constexpr char kLongAgo[] = "01/01/2020 00:00:00";
+constexpr char kPending[] = "P3|I10001";
+
+constexpr char kHint[] = "Genera las páginas de su catálogo y las lleva a su destino.";
+constexpr char kCancelled[] = "Actualización cancelada.";
+constexpr char kNotDone[] = "No se ha podido actualizar la web.";
+constexpr char kWithErrors[] = "La actualización ha terminado con errores.";
+
+// The order in which the generator makes the files is that in which they are sent.
+const std::string kSite =
+    "web.css indexES.html index.html indexEN.html p10002ES.html p10002EN.html "
+    "p10001ES.html p10001EN.html listES.js listEN.js";
+
+constexpr int kSiteFiles = 10;
+
+TemplateBuilder Design() {
+    TemplateBuilder design;
+    design.Emphasis(1, 0)
+        .Add(kKindHomePage, "", "", "<p>%%TOP%%</p>")
+        .Add(kKindCopiedFile, "web.css", "", "p { margin: 0 }")
+        .Add(kKindProductPage, "p%%PRID%%%LID%.html", "", "<p>%%PRODUCTREF%%: %%PRICEAMOUNT%%</p>")
+        .Add(kKindDataList, "list%LID%.js", "", "ids=%%LISTPRODUCTID%%;prices=%%LISTPRICEAMOUNT%%;")
+        .AddList(kKindEmphasis1, "%%TOP%%", "", "%%PRID%% %%PRICEAMOUNT%%", "")
+        .AddList(kKindEmphasis2, "%%MORE%%", "", "", "");
+    return design;
+}
+
+// What a run came to, as one text, so that the table below shows all of it at a glance.
+struct Outcome {
+    std::string steps; // a letter a visible step: t to do, c current, d done, f failed
+    std::string boxes; // "icon: text" of each
+    std::string info;  // lblInfo; the date of a success is left out
+    int bars;          // the two bars as value of the first * 100 + value of the second
+    bool recorded;     // LastWebUpdate set and DeletedItems cleared, both kept in settings.ini
+    bool filesKept;    // OutputFiles still hold the site
+};
+
+class Workflow : public testing::Test {
+protected:
+    void SetUp() override {
+        ConnectPublish();
+        SetFTP("127.0.0.1", "/web", "ana", "clave");
+        Begin();
+        SelectMainTab(kPagePublish);
+        QObject::connect(&ineFTPSend(), &TransferClient::StateChanged, frmMain, [this] {
+            if (whileSending && server.Record().Count("STOR") >= 2) {
+                Do(whileSending);
+            }
+        });
+        QObject::connect(frmMain->prbProgress[1], &QProgressBar::valueChanged, frmMain,
+                         [this](int value) {
+                             if (atOverall && value == overall) {
+                                 Do(atOverall);
+                             }
+                         });
+        QObject::connect(&clock, &QTimer::timeout, frmMain, [this] {
+            if (whenServerWaits && server.Record().Count(stallsAt) > 0) {
+                Do(whenServerWaits);
+            }
+        });
+        clock.start(1);
+    }
+
+    // As before the first run.
+    void Begin() {
+        FTPControlPort = server.Port();
+        server.Misbehave({});
+        server.ForgetCommands();
+        Design().Write(program.Folder(), "Default.zdt");
+        SetStorage(1, {});
+        QFile::remove(program.Folder() + "md5control.txt");
+        ResetControlFile();
+        ClearOutputFiles();
+        ResetSteps();
+        SetProgress(0, 10, 0, 0);
+        SetProgress(0, 10, 0, 1);
+        Remember(kLongAgo, kPending);
+        frmMain->lblInfo->setText(kHint);
+        boxes.seen.clear();
+    }
+
+    static void Remember(const QString& lastUpdate, const QString& deleted) {
+        SetLastWebUpdate(lastUpdate);
+        ClearDeletedItems();
+        for (const QString& item : deleted.split(u'|', Qt::SkipEmptyParts)) {
+            AddDeletedItem(item.left(1), item.mid(1));
+        }
+        SaveSettings();
+    }
+
+    // Once.
+    static void Do(std::function<void()>& act) {
+        const auto once = std::exchange(act, nullptr);
+        once();
+    }
+
+    static void Publish() { Click(frmMain->cmdUpdateWeb[kUpdate]); }
+    static void Cancel() { Click(frmMain->cmdUpdateWeb[kCancel]); }
+
+    static std::string Steps() {
+        QString letters;
+        for (int step = 0; step < kStepCount; ++step) {
+            if (frmMain->lblSteps[step]->isVisible()) {
+                letters += Letter(frmMain->imgStep[step]);
+            }
+        }
+        return letters.toStdString();
+    }
+
+    static QChar Letter(const QLabel* image) {
+        const auto key = [](const QLabel* label) {
+            return label->pixmap(Qt::ReturnByValue).cacheKey();
+        };
+        const std::pair<const QLabel*, char> kPictures[] = {{frmMain->imgToDoStep, 't'},
+                                                            {frmMain->imgCurrentStep, 'c'},
+                                                            {frmMain->imgDoneStep, 'd'},
+                                                            {frmMain->imgFailedStep, 'f'}};
+        for (const auto& [picture, letter] : kPictures) {
+            if (key(picture) == key(image)) {
+                return QChar::fromLatin1(letter);
+            }
+        }
+        return u'?';
+    }
+
+    std::string Boxes() const {
+        QStringList texts;
+        for (const SeenBox& box : boxes.seen) {
+            EXPECT_EQ(box.title, "Lumenta");
+            texts += (box.icon == QMessageBox::Warning ? "warning: " : "information: ") + box.text;
+        }
+        return texts.join(u'|').toStdString();
+    }
+
+    // Names that the server has been sent since its commands were forgotten, in order.
+    std::string Sent() const {
+        QStringList names;
+        for (const QByteArray& command : server.Record().commands) {
+            if (command.startsWith("STOR ")) {
+                names += QString::fromLatin1(command.mid(5));
+            }
+        }
+        return names.join(u' ').toStdString();
+    }
+
+    // Names in the control file, in order.
+    std::string Recorded() const {
+        QFile file(program.Folder() + "md5control.txt");
+        QStringList names;
+        for (file.open(QIODevice::ReadOnly); !file.atEnd();) {
+            names += QString::fromLatin1(file.read(94).left(60)).trimmed();
+        }
+        return names.join(u' ').toStdString();
+    }
+
+    static QString SettingsText() {
+        QFile file(QString::fromUtf8(qgetenv("XDG_CONFIG_HOME")) + "/Lumenta/settings.ini");
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+
+    void Expect(const Outcome& outcome) const {
+        EXPECT_EQ(Steps(), outcome.steps);
+        EXPECT_EQ(Boxes(), outcome.boxes);
+        EXPECT_EQ(frmMain->lblInfo->text().section(u':', 0, 0).toStdString(), outcome.info);
+        EXPECT_EQ(frmMain->prbProgress[0]->value() * 100 + frmMain->prbProgress[1]->value(),
+                  outcome.bars);
+        EXPECT_EQ(frmMain->prbProgress[1]->maximum(), 10);
+        EXPECT_EQ(!OutputFiles.empty() && !OutputFiles[0].Name.isEmpty(), outcome.filesKept);
+        ExpectSettings(outcome.recorded);
+        ExpectIdle();
+    }
+
+    static void ExpectSettings(bool recorded) {
+        const std::optional<QDateTime> last = ReadDate(LastWebUpdate);
+        ASSERT_TRUE(last);
+        EXPECT_EQ(last->secsTo(Now()) < 60, recorded) << LastWebUpdate.toStdString();
+        EXPECT_EQ(DeletedItems, recorded ? "" : kPending);
+        EXPECT_TRUE(SettingsText().contains("LastWebUpdate=" + LastWebUpdate + '\n'));
+        EXPECT_TRUE(SettingsText().contains("DeletedItems=" + DeletedItems + '\n'));
+    }
+
+    static void ExpectIdle() {
+        EXPECT_TRUE(frmMain->cmdUpdateWeb[kUpdate]->isVisible());
+        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kUpdate]);
+        EXPECT_FALSE(frmMain->cmdUpdateWeb[kCancel]->isVisible());
+        for (const QWidget* control : {static_cast<QWidget*>(frmMain->cmdHosting),
+                                       static_cast<QWidget*>(frmMain->chkShowPreview),
+                                       static_cast<QWidget*>(frmMain->fraTabs[0]),
+                                       static_cast<QWidget*>(frmMain->txtProductRef)}) {
+            EXPECT_TRUE(control->isEnabled()) << control->objectName().toStdString();
+        }
+        EXPECT_FALSE(frmMain->txtFields.back()->isEnabled()) << "a box without a field";
+        EXPECT_TRUE(frmMain->mnuConfig[0]->isEnabled());
+    }
+
+    static void ExpectBusy() {
+        EXPECT_FALSE(frmMain->cmdUpdateWeb[kUpdate]->isVisible());
+        EXPECT_TRUE(frmMain->cmdUpdateWeb[kCancel]->isVisible());
+        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kCancel]);
+        for (const QWidget* control : {static_cast<QWidget*>(frmMain->cmdHosting),
+                                       static_cast<QWidget*>(frmMain->optAllOrChanged[0]),
+                                       static_cast<QWidget*>(frmMain->fraTabs[0]),
+                                       static_cast<QWidget*>(frmMain->txtProductRef)}) {
+            EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
+        }
+        EXPECT_FALSE(frmMain->mnuConfig[0]->isEnabled());
+    }
+
+    MemoryDisk memory;
+    FtpServer server{{"/web"}};
+    TestProgram program;
+    BoxAnswers boxes;
+    // What happens once, and when: with the second file sent, as the overall bar reaches a value,
+    // or as an event of its own while the server stands still.
+    std::function<void()> whileSending;
+    std::function<void()> atOverall;
+    int overall = 0;
+    std::function<void()> whenServerWaits;
+    QByteArray stallsAt = "STOR"; // the command that it leaves without a reply
+    QTimer clock;
+};
+
+} // namespace
+
+TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
+    whileSending = [] {
+        ExpectBusy();
+        EXPECT_EQ(Steps(), "dddc");
+        EXPECT_TRUE(frmMain->lblInfo->text().startsWith("Enviando "));
+    };
+    Publish();
+    EXPECT_FALSE(whileSending);
+    EXPECT_EQ(Sent(), kSite);
+    EXPECT_EQ(Recorded(), kSite);
+    EXPECT_EQ(frmMain->lblRemaining->text(), "0 segundos");
+    EXPECT_EQ(server.Record().files.size(), kSiteFiles);
+    EXPECT_TRUE(frmMain->optAllOrChanged[0]->isChecked());
+    Expect({"dddd", "", "Última actualización", 910, true, false});
+
+    const QByteArray home = server.Record().files["/web/index.html"];
+    server.ForgetCommands();
+    Remember(kLongAgo, kPending); // every page is made again, and none differs
+    Click(frmMain->optAllOrChanged[1]);
+    Publish();
+    EXPECT_EQ(Sent(), "");
+    EXPECT_EQ(server.Record().Count("QUIT"), 1);
+    EXPECT_TRUE(frmMain->optAllOrChanged[1]->isChecked());
+    Expect({"dddd", "", "Última actualización", 910, true, false});
+
+    SelectMainTab(kPageCatalogue);
+    ClickRow(1);
+    Type(frmMain->txtPriceAmount, "77");
+    SelectMainTab(kPagePublish);
+    EXPECT_EQ(Steps(), "dddd");
+    ResetControlFile(); // as at another start of the program
+    Publish();
+    EXPECT_EQ(Sent(), "indexES.html index.html indexEN.html p10002ES.html p10002EN.html listES.js "
+                      "listEN.js");
+    EXPECT_TRUE(server.Record().files["/web/index.html"] != home);
+    EXPECT_EQ(Recorded(), kSite);
+}
+
+TEST_F(Workflow, EachWayARunCanFailLeavesWhatItShould) {
+    const std::string connect = "warning: Error al conectar con el servidor FTP '127.0.0.1'. ";
+    const auto reply = [this](const char* verb, const char* text) {
+        FtpFaults faults;
+        faults.replies = {{verb, text}};
+        server.Misbehave(faults);
+    };
+    const struct {
+        const char* name;
+        std::function<void()> prepare;
+        std::string sent; // and recorded in the control file
+        Outcome outcome;
+    } kCases[] = {
+        {"nothing listens",
+         [] { FTPControlPort = 1; },
+         "",
+         {"ddff", connect + "No se puede conectar con el servidor", kNotDone, 910, false, false}},
+        {"wrong password",
+         [&] { reply("PASS", "530 Who?"); },
+         "",
+         {"ddff", connect + "530 Who?", kNotDone, 910, false, false}},
+        {"third file refused",
+         [&] { whileSending = [&] { reply("STOR", "553 Not that name"); }; },
+         "web.css indexES.html index.html",
+         {"dddf", "information: Error al enviar el archivoindex.html. 553 Not that name (12003).",
+          kWithErrors, 210, true, false}},
+        {"cancelled between files",
+         [&] { whileSending = Cancel; },
+         "web.css indexES.html",
+         {"dddf", "", kCancelled, 107, false, true}},
+        {"cancelled when all is sent",
+         [&] {
+             overall = 7;
+             atOverall = Cancel;
+         },
+         kSite,
+         {"dddf", "", kWithErrors, 907, true, true}},
+        {"cancelled while pages are made",
+         [&] {
+             overall = 2;
+             atOverall = Cancel;
+         },
+         "",
+         {"fttt", "", kCancelled, 202, false, true}},
+        {"cancelled before it begins",
+         [&] { QMetaObject::invokeMethod(frmMain, Cancel, Qt::QueuedConnection); },
+         "",
+         {"fttt", "", kCancelled, 0, false, false}},
+        {"no design", [&] { QFile::remove(TemplPath); }, "", {"tttt", "", kHint, 0, false, false}},
+    };
+    for (const auto& failure : kCases) {
+        SCOPED_TRACE(failure.name);
+        Begin();
+        failure.prepare();
+        Publish();
+        EXPECT_EQ(Sent(), failure.sent);
+        EXPECT_EQ(Recorded(), failure.sent);
+        EXPECT_EQ(frmMain->lblRemaining->text(), "");
+        Expect(failure.outcome);
+    }
+}
+
+TEST_F(Workflow, ASiteSavedInAFolderIsShownAndAnErrorThereIsNot) {
+    const QString site = program.Folder() + "web/";
+    const auto publishTo = [this](const QString& folder) {
+        Begin();
+        SetStorage(0, folder);
+        SelectMainTab(kPagePublish);
+        Publish();
+    };
+    publishTo(program.Folder() + "no/such/");
+    Expect({"ddf", "", kNotDone, 910, false, false});
+
+    QString shown;
+    WhenDialogOpens([&shown] {
+        ASSERT_NE(frmWebPreview, nullptr);
+        const auto views = frmWebPreview->wbPreview->findChildren<QWidget*>();
+        ASSERT_FALSE(views.isEmpty());
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            shown = views[0]->property("url").toUrl().toLocalFile();
+            return !shown.isEmpty();
+        }));
+    });
+    publishTo(site);
+    EXPECT_EQ(shown.toStdString(), (site + "index.html").toStdString());
+    EXPECT_EQ(QDir(site).entryList(QDir::Files).size(), kSiteFiles);
+    Expect({"ddd", "", "Última actualización", 910, true, false});
+
+    QFile::remove(site + "index.html");
+    QFile::remove(site + "web.css");
+    QFile::setPermissions(site + "indexES.html", QFile::ReadOwner);
+    publishTo(site);
+    EXPECT_TRUE(QFile::exists(site + "web.css"));
+    EXPECT_FALSE(QFile::exists(site + "index.html"));
+    Expect({"ddf", "", kNotDone, 910, false, false});
+
+    overall = 2;
+    atOverall = Cancel;
+    publishTo(program.Folder() + "cancelled/");
+    EXPECT_FALSE(QFile::exists(program.Folder() + "cancelled"));
+    Expect({"ftt", "", kCancelled, 202, false, true});
+    EXPECT_EQ(server.Record().sessions, 0);
+    EXPECT_EQ(Recorded(), "");
+}
+
+// The screens come back at once, the run ends with the file under way. What the user does in
+// between must neither revive the run nor take its files.
+TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
+    FtpFaults faults;
+    faults.stall = true;
+    server.Misbehave(faults);
+    whenServerWaits = [this] {
+        EXPECT_EQ(Steps(), "dddc");
+        Cancel();
+        EXPECT_EQ(Steps(), "dddf");
+        ExpectIdle();
+        Publish();
+        ExpectIdle();
+        EXPECT_EQ(frmMain->lblInfo->text(), "Cancelando la actualización...");
+        SelectMainTab(kPageCatalogue);
+        ClickTool("Preview");
+        SelectMainTab(kPagePublish);
+        EXPECT_EQ(Steps(), "dddf");
+        server.Misbehave({});
+        server.HangUp();
+    };
+    Publish();
+    EXPECT_EQ(server.Record().Count("STOR"), 1);
+    EXPECT_EQ(Recorded(), "web.css");
+    EXPECT_EQ(boxes.seen.size(), 1U) << Boxes(); // no preview
+    boxes.seen.clear();
+    Expect({"dddf", "", kCancelled, 7, false, true});
+}
+
+TEST_F(Workflow, ACancelWhileConnectingShowsBeforeTheServerHasAnswered) {
+    FtpFaults faults;
+    faults.replies = {{"USER", "331-Wait"}};
+    server.Misbehave(faults);
+    stallsAt = "USER";
+    whenServerWaits = [this] {
+        EXPECT_EQ(Steps(), "ddct");
+        Cancel();
+        EXPECT_EQ(Steps(), "ddft");
+        ExpectIdle();
+        server.Misbehave({});
+        server.HangUp();
+    };
+    Publish();
+    EXPECT_EQ(server.Record().Count("STOR"), 0);
+    EXPECT_EQ(Recorded(), "");
+    Expect({"ddff", "", kCancelled, 907, false, true});
+}

@@ -1,0 +1,202 @@
+// The display of a publish: its steps, bars and remaining time.
+#include "site/steps.h"
+
+#include "core/flavour.h"
+#include "core/settings.h"
+#include "forms/mainform.h"
+
+#include <QTemporaryDir>
+#include <ctime>
+#include <gtest/gtest.h>
+#include <sys/time.h>
+
+namespace {
+
+// The time on the system's clock while it is positive: microseconds since 1970.
+qint64 clockStands = 0;
+
+constexpr qint64 kMicroseconds = 1'000'000;
+
+} // namespace
+
+// The toolkit asks here for the time of day.
+extern "C" int gettimeofday(timeval* time, void* /*zone*/) noexcept {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    const qint64 shown =
+        clockStands > 0 ? clockStands : now.tv_sec * kMicroseconds + now.tv_nsec / 1000;
+    *time = {shown / kMicroseconds, shown % kMicroseconds};
+    return 0;
+}
+
+namespace {
+
+class StepsTest : public testing::Test {
+protected:
+    ~StepsTest() override {
+        clockStands = 0;
+        LoadFlavour(folder.path() + u'/');
+        SetStorage(1, {});
+    }
+
+    static void SetClock(double secondsOfDay) {
+        const QDateTime midnight(QDate(2026, 11, 24), QTime(0, 0));
+        clockStands = midnight.toSecsSinceEpoch() * kMicroseconds +
+                      qRound64(secondsOfDay * double(kMicroseconds));
+    }
+
+    // "text" of each step shown, joined by "|".
+    std::string Texts() const {
+        QStringList texts;
+        for (int step = 0; step < kStepCount; ++step) {
+            EXPECT_EQ(form.imgStep[step]->isHidden(), form.lblSteps[step]->isHidden());
+            if (!form.lblSteps[step]->isHidden()) {
+                texts += form.lblSteps[step]->text();
+            }
+        }
+        return texts.join(u'|').toStdString();
+    }
+
+    std::string States() const {
+        const QLabel* kPictures[] = {form.imgToDoStep, form.imgCurrentStep, form.imgDoneStep,
+                                     form.imgFailedStep};
+        QString letters;
+        for (const QLabel* image : form.imgStep) {
+            for (int state = 0; state < 4; ++state) {
+                if (image->pixmap(Qt::ReturnByValue).cacheKey() ==
+                    kPictures[state]->pixmap(Qt::ReturnByValue).cacheKey()) {
+                    letters += QStringLiteral("tcdf")[state];
+                }
+            }
+        }
+        return letters.toStdString();
+    }
+
+    void UseAgencies() {
+        QFile file(folder.filePath("agency/sector.dat"));
+        QDir(folder.path()).mkpath("agency");
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        for (const char byte :
+             QByteArray("ZAND\r\nINMO\r\nZandora\r\nI\r\nI\r\nM\r\nZ\r\nZ\r\nN\r\n")) {
+            file.putChar(static_cast<char>(~byte));
+        }
+        file.putChar('\0');
+        file.close();
+        LoadFlavour(folder.filePath("agency/"));
+    }
+
+    QTemporaryDir folder;
+    MainForm form;
+};
+
+} // namespace
+
+TEST_F(StepsTest, TheListFollowsStorageAndTradeAndKeepsWhatTheLastRunCameTo) {
+    const std::string made = "Generar el Contenido Web|Comprobar y Listar los cambios|";
+    const std::string sent = "Conectar con el Servidor Web|Enviar los Ficheros al Servidor Web";
+    const std::string saved = "Guardar los Ficheros en Carpeta Local";
+    LoadSettings();
+    LoadFlavour(folder.path() + u'/');
+    SetStorage(1, {});
+    SetUpSteps();
+    EXPECT_EQ(Texts(), made + sent);
+    ResetSteps();
+    StartSteps();
+    NextStep();
+    NextStep();
+    StepFailed();
+    SetUpSteps();
+    EXPECT_EQ(States(), "ddftt");
+    SetStorage(0, {});
+    SetUpSteps();
+    EXPECT_EQ(Texts(), made + saved);
+    EXPECT_EQ(States(), "ddttt");
+    UseAgencies();
+    SetUpSteps();
+    EXPECT_EQ(Texts(), made + saved + "|Sincronizar con Vestalia");
+    SetStorage(1, {});
+    SetUpSteps();
+    EXPECT_EQ(Texts(), made + sent + "|Sincronizar con Vestalia");
+}
+
+TEST_F(StepsTest, EachChangeShowsInTheCurrentStepAndAFailureStays) {
+    ResetSteps();
+    EXPECT_EQ(States(), "ttttt");
+    StartSteps();
+    EXPECT_EQ(States(), "ctttt");
+    NextStep();
+    EXPECT_EQ(States(), "dcttt");
+    StepFailed();
+    EXPECT_TRUE(AnyStepFailed());
+    NextStep();
+    EXPECT_EQ(States(), "dfctt");
+    EndSteps();
+    EXPECT_EQ(States(), "dfftt");
+    ResetSteps();
+    StartSteps();
+    for (int step = 0; step < kStepCount; ++step) {
+        StepDone();
+        EndSteps();
+        NextStep();
+    }
+    StepFailed(); // behind the last one, where a sale without a portal ends
+    EXPECT_EQ(States(), "ddddd");
+    EXPECT_EQ(StepIndex, kStepCount);
+    EXPECT_FALSE(AnyStepFailed());
+}
+
+TEST_F(StepsTest, ABarTakesItsRangeWithEachValue) {
+    SetProgress(4, 10, 0, 1);
+    SetProgress(250, 40000, 0, 0);
+    SetProgress(3, 5, 1, 0);
+    SetProgress(7, 10, 0, 1);
+    EXPECT_EQ(form.prbProgress[0]->value(), 3);
+    EXPECT_EQ(form.prbProgress[0]->minimum(), 1);
+    EXPECT_EQ(form.prbProgress[0]->maximum(), 5);
+    EXPECT_EQ(form.prbProgress[1]->value(), 7);
+    EXPECT_EQ(form.prbProgress[1]->maximum(), 10);
+}
+
+// Each line: seconds since the start, bytes sent of 10,000 and the text that is then shown.
+TEST_F(StepsTest, TheRemainingTimeIsMeasuredAndCountsDownBetweenMeasurements) {
+    struct Moment {
+        double seconds;
+        double sent;
+        const char* text;
+    };
+    const std::vector<Moment> kRuns[] = {
+        {{0, 0, ""}, {1, 499, "Calculando..."}, {1, 500, "19 segundos"}},
+        // Up to 20 seconds each call measures.
+        {{10, 5000, "10 segundos"}, {11, 5000, "11 segundos"}, {12, 10000, "0 segundos"}},
+        // Above, the first figure counts down, whatever the speed does, until 5 seconds are over.
+        {{4, 1000, "32 segundos"},
+         {4.5, 5000, "32 segundos"},
+         {4.9, 9000, "31 segundos"},
+         {5, 1000, "45 segundos"},
+         {8, 1000, "42 segundos"},
+         {10, 2000, "40 segundos"}},
+        // The figure is rounded before it is compared, a half to the even neighbour.
+        {{6.6, 1000, "59 segundos"}},
+        {{6.61, 1000, "59 segundos"}},
+        {{59.5, 5000, "1 minuto(s) "}},
+        {{60, 5000, "1 minuto(s) "}},
+        {{90, 5000, "2 minuto(s) "}},
+        {{150, 5000, "2 minuto(s) "}},
+    };
+    for (const auto& run : kRuns) {
+        SetClock(43200);
+        ResetTimeRemaining();
+        for (const Moment& moment : run) {
+            SetClock(43200 + moment.seconds);
+            EXPECT_EQ(TimeRemaining(moment.sent, 10000).toStdString(), moment.text)
+                << moment.seconds;
+        }
+    }
+}
+
+TEST_F(StepsTest, AcrossMidnightTheTextIsWhatTheArithmeticGives) {
+    SetClock(86390);
+    ResetTimeRemaining();
+    SetClock(86400 + 10);
+    EXPECT_EQ(TimeRemaining(5000, 10000).toStdString(), "-86380 segundos");
+}
