@@ -1,0 +1,80 @@
+#include "housecheck.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Folders beside the house: they may need all of it.
+const QStringList kBeside = {"tests", "bench",   "tools",    "cmake",
+                             "build", "designs", "delivery", "docs"};
+
+QString ReadText(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QString::fromUtf8(file.readAll());
+}
+
+SourceTexts ReadHouse() {
+    const QDir top(SOURCE_FOLDER);
+    SourceTexts texts;
+    for (const QString& folder : top.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QDirIterator files(top.filePath(folder), {"*.h", "*.cpp", "CMakeLists.txt"}, QDir::Files);
+        while (!kBeside.contains(folder) && files.hasNext()) {
+            const QString path = files.next();
+            texts.insert(top.relativeFilePath(path), ReadText(path));
+        }
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST(House, StandsAsTheReadmeDrawsIt) {
+    const QMap<QString, int> floors = ReadFloors(ReadText(SOURCE_FOLDER "/README.md"));
+    const SourceTexts texts = ReadHouse();
+    ASSERT_GT(floors.size(), 10);
+    ASSERT_GT(texts.size(), 200);
+    EXPECT_EQ(FindHouseFaults(floors, texts).join("\n").toStdString(), "");
+}
+
+TEST(House, EveryFaultIsToldWithItsLines) {
+    const QMap<QString, int> floors = ReadFloors("| floor | folder |\n| 1 | `low/` | x |\n"
+                                                 "| 1 | `beside/` | x |\n| 2 | `high/` | x |\n");
+    const SourceTexts sound = {
+        {"low/a.h", "#include <QString>\n"},
+        {"low/a.cpp", "#include \"low/a.h\"\n#include \"low/b.h\"\n"},
+        {"low/b.h", ""},
+        {"beside/c.h", "// #include \"high/d.h\"\n"},
+        {"high/d.h", "\n#include \"low/a.h\"\n"},
+        {"high/CMakeLists.txt", "add_wing(high\n SOURCES d.cpp\n USES low)\n"}};
+    struct Case {
+        const char* file;
+        const char* text;
+        const char* fault;
+    };
+    const Case cases[] = {
+        {"low/b.h", "", ""},
+        {"low/b.h", "#include \"high/d.h\"",
+         "low/b.h:1 (floor 1) needs high/d (floor 2) and high/d.h:2 needs low/a\na circle: "
+         "high/d.h:2 needs low/a, low/a.cpp:2 needs low/b, low/b.h:1 needs high/d"},
+        {"beside/c.h", "\n\n#include \"low/b.h\"", "beside/c.h:3 (floor 1) needs low/b (floor 1)"},
+        {"low/b.h", "#include \"low/a.h\"",
+         "a circle: low/a.cpp:2 needs low/b, low/b.h:1 needs low/a"},
+        {"low/CMakeLists.txt", "add_wing(low\n    USES Qt6::Core\n    high)",
+         "low/CMakeLists.txt:3 (floor 1) needs high (floor 2) and high/d.h:2 needs low/a"},
+        {"new/e.h", "", "new/ has sources and no row in the table"},
+    };
+    for (const Case& fault : cases) {
+        SourceTexts texts = sound;
+        texts[fault.file] = fault.text;
+        EXPECT_EQ(FindHouseFaults(floors, texts).join("\n").toStdString(), fault.fault)
+            << fault.file << ": " << fault.text;
+    }
+    QMap<QString, int> more = floors;
+    more["gone"] = 3;
+    EXPECT_EQ(FindHouseFaults(more, sound).join("\n").toStdString(),
+              "the table has gone/, which has no sources");
+}
