@@ -1,19 +1,17 @@
 #include "app/mainscreen.h"
 
 #include "app/actions.h"
+#include "app/publishpage.h"
 #include "config/configdialog.h"
 #include "core/settings.h"
-#include "core/vocabulary.h"
 #include "details/about.h"
 #include "details/assistance.h"
 #include "details/corpinfodialog.h"
 #include "details/languages.h"
-#include "details/templatepreview.h"
 #include "editor/productform.h"
 #include "editor/productlist.h"
 #include "forms/mainform.h"
 #include "platform/controlevents.h"
-#include "site/steps.h"
 #include "store/corpinfo.h"
 #include "store/fielddefs.h"
 #include "store/languages.h"
@@ -24,41 +22,6 @@
 namespace {
 
 constexpr int kTabPublish = 1;
-constexpr int kStorageFTP = 1;
-
-constexpr int kMessageListed = 1;
-constexpr int kMessageFeatured = 2;
-
-// A path of this length or more is shortened in its middle, characters.
-constexpr int kPathShown = 48;
-constexpr char kEllipsis[] = "...";
-
-QString Shortened(const QString& path) {
-    if (path.size() < kPathShown) {
-        return path;
-    }
-    const auto half = (kPathShown - 3) / 2;
-    return path.left(half) + kEllipsis + path.right(half);
-}
-
-void ShowDestination() {
-    static const QStringList kLabels =
-        QStringLiteral("Carpeta de acceso local:|Servidor de Internet:").split(u'|');
-    const bool ftp = StorageMethod == kStorageFTP;
-    const QString path =
-        ftp ? "ftp://" + FTPServer + FTPPath : StoragePath.left(StoragePath.size() - 1);
-    frmMain->lblWhereSave[0]->setText(kLabels[ftp ? 1 : 0]);
-    frmMain->lblWhereSave[1]->setText(Shortened(path));
-    frmMain->lblWhereSave[1]->setToolTip(path);
-}
-
-void ShowCounts() {
-    const QString featured = QStringLiteral("%1 de %2").arg(FeaturedCount).arg(TemplMaxEmph);
-    frmMain->lblNumProducts[0]->setText(
-        QString(Messages[kMessageListed]).replace("%1", QString::number(ListRowCount())));
-    frmMain->lblNumProducts[1]->setText(
-        QString(Messages[kMessageFeatured]).replace("%1", featured));
-}
 
 // The configuration may have moved the catalogue: then the new one is opened in place of the old.
 void OpenConfig(int page) {
@@ -165,14 +128,4 @@ void SelectMainTab(int tab) {
         frmMain->mnuTabs[entry]->setChecked(entry == tab);
         frmMain->mnuActions[entry]->menuAction()->setVisible(entry == tab);
     }
-}
-
-void RefreshPublishTab(bool reloadPreview) {
-    if (reloadPreview || frmMain->imgTemplPreview->pixmap(Qt::ReturnByValue).isNull()) {
-        LoadTemplatePreview(TemplPath, frmMain->lblTemplName, nullptr, nullptr, nullptr,
-                            frmMain->imgTemplPreview, 1);
-    }
-    ShowCounts();
-    ShowDestination();
-    SetUpSteps();
 }

@@ -11,6 +11,3 @@ void LeaveMainScreen(bool& cancel);
 // Shows one of the form's pages, 0 or 1; entering the publish page saves the product and fills that
 // page.
 void SelectMainTab(int tab);
-
-// Fills the page "Actualizar Web"; `reloadPreview` reads the template's identity again.
-void RefreshPublishTab(bool reloadPreview);

@@ -52,6 +52,17 @@ void Mail(const QString& page) {
     }
 }
 
+// The path of the product's page of that kind; empty where it could not be made, or there is none.
+QString PageOf(const QString& kind, const QString& productId, SiteSnapshot& snapshot) {
+    if (kind == u"PRODUCT") {
+        return GeneratePreviewPage({PreviewPage::Product, productId}, TemplPath, snapshot);
+    }
+    if (kind == u"LAYOUT") {
+        return GeneratePreviewPage({PreviewPage::Layout, productId}, TemplPath, snapshot);
+    }
+    return {};
+}
+
 } // namespace
 
 void ShowSheet(const QString& spec, int action) {
@@ -61,7 +72,7 @@ void ShowSheet(const QString& spec, int action) {
     }
     SiteSnapshot snapshot;
     TakeSiteSnapshot(snapshot);
-    const QString page = GeneratePreviewPage(spec, TemplPath, snapshot);
+    const QString page = PageOf(kind, spec.section(u'|', 1, 1), snapshot);
     DropSiteSnapshot(snapshot);
     switch (action) {
     case kPrint:

@@ -1,5 +1,6 @@
 #include "app/workflow.h"
 
+#include "app/publishpage.h"
 #include "core/flavour.h"
 #include "core/settings.h"
 #include "details/webpreview.h"
@@ -58,8 +59,9 @@ bool RunGeneration() {
     bool delivered = false;
     try {
         TakeSiteSnapshot(snapshot);
+        const bool changedOnly = frmMain->optAllOrChanged[kOptionChanged]->isChecked();
         // A cancel may have come since the press of the button: then nothing begins.
-        delivered = !AbortPublish && GenerateSite(TemplPath, snapshot);
+        delivered = !AbortPublish && GenerateSite(TemplPath, snapshot, changedOnly);
     } catch (const std::exception& failure) {
         StepFailed();
         MsgBox(QString::fromUtf8(failure.what()), BoxIcon::Warning, AppName);
@@ -82,8 +84,8 @@ QString OutcomeText(const QString& before) {
 
 void Publish() {
     const QString before = frmMain->lblInfo->text();
-    frmMain->lblInfo->setText("Actualizando la web...");
-    frmMain->lblRemaining->clear();
+    ReportActivity("Actualizando la web...");
+    ReportRemaining({});
     LastOutcome = RunGeneration() ? PublishOutcome::Delivered : PublishOutcome::NotDelivered;
     publishing = false;
     if (LastOutcome == PublishOutcome::Delivered) {
@@ -91,9 +93,9 @@ void Publish() {
     } else {
         EndSteps();
     }
-    frmMain->lblInfo->setText(OutcomeText(before));
+    ReportActivity(OutcomeText(before));
     if (AnyStepFailed()) {
-        frmMain->lblRemaining->clear(); // nothing remains of a run that was given up
+        ReportRemaining({}); // nothing remains of a run that was given up
     }
     if (LastOutcome == PublishOutcome::Delivered && StorageMethod == kStorageLocal) {
         ShowWebPreview(StoragePath + "index.html");
@@ -103,6 +105,7 @@ void Publish() {
 } // namespace
 
 void ConnectPublish() {
+    ConnectPublishPage();
     for (int index : {kButtonUpdate, kButtonCancel}) {
         QObject::connect(frmMain->cmdUpdateWeb[index], &QPushButton::clicked, frmMain,
                          [index] { cmdUpdateWeb_Click(index); });
@@ -124,7 +127,7 @@ void cmdUpdateWeb_Click(int index) {
         Publish();
     } else {
         if (publishing) {
-            frmMain->lblInfo->setText("Cancelando la actualización...");
+            ReportActivity("Cancelando la actualización...");
         }
         CancelPublish();
     }

@@ -142,7 +142,8 @@ void cmdPreview_Click(CorpInfoForm& form, std::size_t i) {
     SiteSnapshot snapshot;
     SaveForGood(form);
     TakeSiteSnapshot(snapshot);
-    const QString page = GeneratePreviewPage(i == 0 ? "ABOUTUS" : "FINDUS", TemplPath, snapshot);
+    const QString page = GeneratePreviewPage({i == 0 ? PreviewPage::AboutUs : PreviewPage::FindUs},
+                                             TemplPath, snapshot);
     DropSiteSnapshot(snapshot);
     LoadCorpLangValues();
     if (!OpenWithSystem(page)) {

@@ -27,17 +27,19 @@ void ShowText(QWidget* control, const QString& text) {
     }
 }
 
-void ShowIdentity(QWidget* nameLabel, QWidget* descriptionLabel, QWidget* maxEmphLabel) {
+void ShowIdentity(const TemplateHeaderRecord& header, QWidget* nameLabel, QWidget* descriptionLabel,
+                  QWidget* maxEmphLabel) {
     // The sum is a byte, as the generator counts it.
-    const auto maxEmph = quint8(TemplateHeader.MaxEmph1 + TemplateHeader.MaxEmph2);
-    ShowText(nameLabel, TrimBlanks(TemplateHeader.Name));
-    ShowText(descriptionLabel, TrimBlanks(TemplateHeader.Description));
+    const auto maxEmph = quint8(header.MaxEmph1 + header.MaxEmph2);
+    ShowText(nameLabel, TrimBlanks(header.Name));
+    ShowText(descriptionLabel, TrimBlanks(header.Description));
     ShowText(maxEmphLabel, QString::number(maxEmph));
 }
 
 // Throws PictureError.
-void ShowPreview(QLabel* previewImage, int number, const QString& path) {
-    const std::vector<int> previews = AllSections(kKindPreview);
+void ShowPreview(const TemplateContent& design, QLabel* previewImage, int number,
+                 const QString& path) {
+    const std::vector<int> previews = AllSections(kKindPreview, design.Sections);
     const int index = qMax(number, 1) - 1;
     if (number < 0 || index >= int(previews.size())) {
         previewImage->clear();
@@ -45,14 +47,14 @@ void ShowPreview(QLabel* previewImage, int number, const QString& path) {
     }
     const QSize needed = previewImage->size() * previewImage->devicePixelRatioF();
     const DecodedPicture picture =
-        ReadPictureBytes(SectionBodies[previews[index]], QFileInfo(path).fileName(), needed);
+        ReadPictureBytes(design.Bodies[previews[index]], QFileInfo(path).fileName(), needed);
     previewImage->setPixmap(QPixmap::fromImage(picture.image));
 }
 
-void ShowColorSets(QWidget* stylesValue) {
-    const int section = FindSection(kKindColorSets);
+void ShowColorSets(const TemplateContent& design, QWidget* stylesValue) {
+    const int section = FindSection(kKindColorSets, design.Sections);
     if (section != kNoSection && stylesValue != nullptr) {
-        SetControlText(stylesValue, ReadColorSets(SectionBodies[section]));
+        SetControlText(stylesValue, ReadColorSets(design.Bodies[section]));
     }
 }
 
@@ -61,16 +63,16 @@ void ShowColorSets(QWidget* stylesValue) {
 bool LoadTemplatePreview(const QString& path, QWidget* nameLabel, QWidget* descriptionLabel,
                          QWidget* maxEmphLabel, QWidget* stylesValue, QLabel* previewImage,
                          int previewNumber) {
-    const KeptTemplate kept;
-    if (path.isEmpty() || !QFileInfo(path).isFile() || !LoadTemplateFile(path)) {
+    TemplateContent design;
+    if (path.isEmpty() || !QFileInfo(path).isFile() || !ReadTemplateFile(path, design)) {
         return false;
     }
-    const int words = FindSection(kKindLanguages);
-    SetTemplateLangs(words == kNoSection ? QString() : TrimBlanks(TemplateSections[words].Name));
-    ShowIdentity(nameLabel, descriptionLabel, maxEmphLabel);
+    const int words = FindSection(kKindLanguages, design.Sections);
+    SetTemplateLangs(words == kNoSection ? QString() : TrimBlanks(design.Sections[words].Name));
+    ShowIdentity(design.Header, nameLabel, descriptionLabel, maxEmphLabel);
     try {
-        ShowPreview(previewImage, previewNumber, path);
-        ShowColorSets(stylesValue);
+        ShowPreview(design, previewImage, previewNumber, path);
+        ShowColorSets(design, stylesValue);
     } catch (const PictureError&) {
         ShowOpenError();
     }

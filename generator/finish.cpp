@@ -187,14 +187,15 @@ void FinishSite(SiteSnapshot& snapshot) {
     FinishPass pass(snapshot);
     const int count = static_cast<int>(OutputFiles.size());
     for (int place = 0; place < count && !AbortPublish; ++place) {
-        SetProgress(place, count, 0, 0);
+        SetProgress(place, count, 0, kBarTask);
         DoEvents();
-        OutputFile& file = OutputFiles[place];
+        OutputFile file = TakeOutputFile(place);
         const QString upperName = TrimBlanks(file.Name).toUpper();
         if (upperName.endsWith(u".HTML") || upperName.endsWith(u".JS") ||
             upperName.endsWith(u".CSS")) {
             FinishText(file, upperName, pass);
         }
         file.Md5 = MD5Bytes(file.Data);
+        PutOutputFile(place, std::move(file));
     }
 }

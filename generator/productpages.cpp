@@ -138,7 +138,7 @@ QString BuildProductPages(const QString& productId, int layoutMarker, bool chang
     const bool all = !changedOnly || !productId.isEmpty();
     const int count = products.RecordCount();
     for (int place = 1; products.HasRow() && !AbortPublish; ++place, products.MoveNext()) {
-        SetProgress(place, count, 0, 0);
+        SetProgress(place, count, 0, kBarTask);
         if (all || changes.Changed(reader.LastUpdate())) {
             BuildPages(pass, reader.Read());
         }

@@ -55,7 +55,7 @@ void CopyLanguagePages() {
     }
 }
 
-QString BuildFixedPages(const QString& pageName) {
+QString BuildFixedPages(SectionKind previewKind) {
     QString result;
     for (const QString& lang : WebLangs) {
         for (const int kind : {kKindAboutUs, kKindFindUs, kKindFixedPage}) {
@@ -63,10 +63,10 @@ QString BuildFixedPages(const QString& pageName) {
             if (section == kNoSection) {
                 continue;
             }
-            QString& name = TemplateSections[section].Name;
-            if ((kind == kKindAboutUs && pageName == u"ABOUTUS") ||
-                (kind == kKindFindUs && pageName == u"FINDUS")) {
+            QString name = TemplateSections[section].Name;
+            if (kind == previewKind) {
                 name.replace(u"%LID%"_s, UICurrentLang);
+                RenameSection(section, name);
                 result = TrimBlanks(name);
             }
             AddBody(section, name, lang);

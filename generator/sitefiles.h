@@ -2,6 +2,8 @@
 // tags of the finishing pass.
 #pragma once
 
+#include "site/template.h"
+
 #include <QString>
 
 // Sections of kind 3: pages and scripts (".html", ".js") once for each language, everything else
@@ -16,8 +18,8 @@ void CopyIndexPages();
 // The first section of kind 11, once for each language.
 void CopyLanguagePages();
 
-// About-us, find-us and the further page, kinds 8, 10 and 18, once for each language. With
-// "ABOUTUS" or "FINDUS" as `pageName` the name of that section gets UICurrentLang for %LID% in the
-// table itself, so that the pages of all languages bear it, and is returned without blanks around
-// it; empty otherwise.
-QString BuildFixedPages(const QString& pageName);
+// About-us, find-us and the further page, kinds 8, 10 and 18, once for each language. For the
+// preview of one of them, `previewKind`, the name of that section gets UICurrentLang for %LID% in
+// the table itself, so that the pages of all languages bear it, and is returned without blanks
+// around it; empty otherwise.
+QString BuildFixedPages(SectionKind previewKind = kKindNone);

@@ -45,7 +45,7 @@ void BuildListings(const std::vector<ZoneLang>& zones, SiteSnapshot& snapshot) {
         ZonePageBlock.push_back({ToAnsi(TemplateSections[section].Name),
                                  ZoneListing(parts, zone, snapshot, sources), zone.Lang});
     }
-    TemplateSections[section].Name.clear();
+    RenameSection(section, {});
 }
 
 QString ZonePageName(const ZoneLang& zone) {

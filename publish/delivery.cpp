@@ -9,13 +9,11 @@
 namespace {
 
 constexpr int kStorageFTP = 1;
-constexpr int kAllTasks = 1;   // the overall bar
-constexpr int kTaskRange = 10; // its range
 
 bool SendByFTP() {
-    SetProgress(4, kTaskRange, 0, kAllTasks);
+    SetOverallProgress(4);
     const bool sent = SendFiles(OutputFiles);
-    SetProgress(7, kTaskRange, 0, kAllTasks);
+    SetOverallProgress(7);
     return sent;
 }
 
@@ -26,7 +24,7 @@ bool SaveToFolder() {
         return false;
     }
     StepDone();
-    SetProgress(kTaskRange, kTaskRange, 0, kAllTasks);
+    SetOverallProgress(kAllTasks);
     return true;
 }
 
@@ -39,6 +37,6 @@ bool DeliverSite(SiteSnapshot& /*snapshot*/) {
     }
     NextStep();
     ClearOutputFiles();
-    SetProgress(kTaskRange, kTaskRange, 0, kAllTasks);
+    SetOverallProgress(kAllTasks);
     return delivered;
 }

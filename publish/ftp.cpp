@@ -23,7 +23,6 @@ namespace {
 
 constexpr char kAnonymous[] = "anonymous";
 constexpr char kStagingFile[] = "kpfftp.tmp"; // in the store's folder
-constexpr int kCurrentTask = 0;               // the bar of the task now running
 
 TransferClient* client = nullptr;
 
@@ -95,14 +94,14 @@ void RemoveStaged() {
 void ShowSending(const QString& name) {
     const bool readable = !lastShown.isValid() || lastShown.elapsed() >= kServeInterval;
     if (readable && name != shownName && !AbortPublish) {
-        frmMain->lblInfo->setText("Enviando " + name);
+        ReportActivity("Enviando " + name);
         shownName = name;
         lastShown.start();
     }
 }
 
 void ShowRemaining(double sent, double total) {
-    frmMain->lblRemaining->setText(TimeRemaining(sent, total));
+    ReportRemaining(TimeRemaining(sent, total));
 }
 
 void TellTransferFailure(const QString& name) {
@@ -184,7 +183,7 @@ bool SendChangedFiles(std::vector<OutputFile>& files) {
     lastShown.invalidate();
     ResetTimeRemaining();
     for (std::size_t i = 0; i < files.size() && !AbortPublish;) {
-        SetProgress(static_cast<int>(i), static_cast<int>(files.size()) - 1, 0, kCurrentTask);
+        SetProgress(static_cast<int>(i), static_cast<int>(files.size()) - 1, 0, kBarTask);
         const OutputFile& file = files[i];
         if (file.SendNow && !TrimBlanks(file.Name).isEmpty()) {
             const Sent outcome = SendFile(file, sent, total);

@@ -1,13 +1,13 @@
 #include "publish/generate.h"
 
 #include "core/settings.h"
-#include "forms/mainform.h"
 #include "generator/categories.h"
 #include "generator/choices.h"
 #include "generator/datalist.h"
 #include "generator/emphasis.h"
 #include "generator/fieldvalues.h"
 #include "generator/finish.h"
+#include "generator/generation.h"
 #include "generator/productpages.h"
 #include "generator/sitefiles.h"
 #include "generator/zonepages.h"
@@ -20,54 +20,33 @@
 #include "site/steps.h"
 #include "site/styles.h"
 #include "site/template.h"
-#include "site/transforms.h"
 #include "site/weblangs.h"
 
 #include <QFileInfo>
-#include <QScopeGuard>
+#include <QScopedValueRollback>
 
 namespace {
 
-constexpr int kOptionChanged = 0; // "Actualizar el contenido modificado"
-constexpr int kAllTasks = 1;      // the overall bar
-constexpr int kTaskRange = 10;    // its range
-
-constexpr int kRequestKind = 1; // fields of a preview request, from 1
-constexpr int kRequestProduct = 2;
-
-void ShowOverall(int value) {
-    SetProgress(value, kTaskRange, 0, kAllTasks);
-}
-
-// Whatever an earlier generation has left in memory.
-void ResetGeneration() {
-    ResetActiveFieldDefs();
-    ResetWebLangs();
-    ResetStyles();
-    ResetZones();
-    ResetChoices();
-    ResetEmphasis();
-    ResetZonePages();
-}
+// A run is under way: the files are its own, and so is the user's cancel.
+bool generating = false;
 
 // All files of the site. The order counts: words, zones and choices exist before the pages that the
 // finishing pass puts them into, and the blocks come after the product pages, which find the zones.
-void ExpandSite(SiteSnapshot& snapshot) {
+void ExpandSite(SiteSnapshot& snapshot, bool changedOnly) {
     LoadLanguageStrings();
     LoadStyles();
     IndexImageSections();
     PrepareNoPictureImages();
-    ShowOverall(0);
+    SetOverallProgress(0);
     CopyTemplateFiles();
     BuildZoneList(snapshot);
-    ShowOverall(1);
+    SetOverallProgress(1);
     BuildChoiceLists(snapshot);
     CopyIndexPages();
     CopyLanguagePages();
-    BuildFixedPages({});
-    const bool changedOnly = frmMain->optAllOrChanged[kOptionChanged]->isChecked();
+    BuildFixedPages();
     BuildProductPages({}, 0, changedOnly, snapshot);
-    ShowOverall(2);
+    SetOverallProgress(2);
     BuildProductDataList(snapshot);
     BuildEmphasisBlocks(snapshot);
     AddCompanyLogos();
@@ -90,7 +69,7 @@ QString ExpandProductPreview(const QString& productId, int marker, SiteSnapshot&
     return page;
 }
 
-QString ExpandFixedPreview(const QString& pageName, SiteSnapshot& snapshot) {
+QString ExpandFixedPreview(SectionKind kind, SiteSnapshot& snapshot) {
     IndexImageSections();
     CopyTemplateFiles();
     LoadStyles();
@@ -100,17 +79,30 @@ QString ExpandFixedPreview(const QString& pageName, SiteSnapshot& snapshot) {
     AddCompanyLogos();
     BuildZonePages(snapshot);
     BuildZoneLinks();
-    return BuildFixedPages(pageName);
+    return BuildFixedPages(kind);
+}
+
+QString ExpandPreview(const PreviewRequest& request, SiteSnapshot& snapshot) {
+    switch (request.page) {
+    case PreviewPage::Product:
+        return ExpandProductPreview(request.productId, 0, snapshot);
+    case PreviewPage::Layout:
+        return ExpandProductPreview(request.productId, kLayoutMarker, snapshot);
+    case PreviewPage::FindUs:
+        return ExpandFixedPreview(kKindFindUs, snapshot);
+    case PreviewPage::AboutUs:
+        return ExpandFixedPreview(kKindAboutUs, snapshot);
+    }
+    return {};
 }
 
 } // namespace
 
-bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot) {
+bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot, bool changedOnly) {
     if (templatePath.isEmpty() || !QFileInfo(templatePath).isFile()) {
         return false;
     }
-    HoldTemplate(true);
-    const auto over = qScopeGuard([] { HoldTemplate(false); });
+    const QScopedValueRollback<bool> run(generating, true);
     SetAbortPublish(false);
     ResetSteps();
     StartSteps();
@@ -122,13 +114,13 @@ bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot) {
         return false;
     }
     if (!AbortPublish) {
-        ExpandSite(snapshot);
+        ExpandSite(snapshot, changedOnly);
     }
     if (!AbortPublish) {
         NextStep();
         CopyCustomFiles();
         FinishSite(snapshot);
-        ShowOverall(3);
+        SetOverallProgress(3);
     }
     if (AbortPublish) {
         return false;
@@ -137,15 +129,9 @@ bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot) {
     return DeliverSite(snapshot);
 }
 
-QString GeneratePreviewPage(const QString& request, const QString& templatePath,
+QString GeneratePreviewPage(const PreviewRequest& request, const QString& templatePath,
                             SiteSnapshot& snapshot) {
-    const QString kind = NthField(request, kRequestKind, "|");
-    const QString productId = NthField(request, kRequestProduct, "|");
-    const bool ofProduct = kind == u"PRODUCT" || kind == u"LAYOUT";
-    if (!ofProduct && kind != u"FINDUS" && kind != u"ABOUTUS") {
-        return {};
-    }
-    if (TemplateHeld) { // the files are a run's, which a user's cancel must still reach
+    if (generating) {
         return {};
     }
     SetAbortPublish(false);
@@ -155,9 +141,7 @@ QString GeneratePreviewPage(const QString& request, const QString& templatePath,
     }
     LoadLanguageStrings();
     BuildChoiceLists(snapshot);
-    const int marker = kind == u"LAYOUT" ? kLayoutMarker : 0;
-    const QString page = ofProduct ? ExpandProductPreview(productId, marker, snapshot)
-                                   : ExpandFixedPreview(kind, snapshot);
+    const QString page = ExpandPreview(request, snapshot);
     FinishSite(snapshot);
     const QString folder = DBpath + "temp/";
     if (page.isEmpty() || !SaveOutputFiles(folder)) {

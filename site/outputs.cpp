@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace {
 
@@ -98,6 +99,14 @@ void AddDraft(const QString& name, const QString& lang, const QByteArray& data) 
     std::copy(data.cbegin(), data.cend(), place);
     drafts.used += size;
     AddOutputFile({name, lang, {}, false, QByteArray::fromRawData(place, size), drafts.bytes});
+}
+
+OutputFile TakeOutputFile(int place) {
+    return std::exchange(OutputFiles.at(place), {});
+}
+
+void PutOutputFile(int place, OutputFile file) {
+    OutputFiles.at(place) = std::move(file);
 }
 
 void ClearOutputFiles() {

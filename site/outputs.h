@@ -29,6 +29,11 @@ void AddOutputFile(OutputFile file);
 // memory, just too small for the finished pages.
 void AddDraft(const QString& name, const QString& lang, const QByteArray& data);
 
+// For the finishing pass: takes the file at `place` (from 0) out, so that its memory can be used
+// again while it is reworked, and puts it back.
+OutputFile TakeOutputFile(int place);
+void PutOutputFile(int place, OutputFile file);
+
 // Forgets all files.
 void ClearOutputFiles();
 

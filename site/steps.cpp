@@ -2,9 +2,11 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
-#include "forms/mainform.h"
 #include "text/dates.h"
 #include "text/numbers.h"
+
+#include <algorithm>
+#include <array>
 
 int StepIndex = 0;
 
@@ -19,61 +21,35 @@ constexpr double kMeasureEvery = 5;
 constexpr double kLongEstimate = 20;
 constexpr double kSecondsShown = 59; // above it, minutes
 
-enum class StepState { ToDo, Current, Done, Failed };
-
-std::array<StepState, kStepCount> states{};
+struct Step {
+    QString text;
+    StepState state = StepState::ToDo;
+};
+std::array<Step, kStepCount> steps;
 
 double timerStart = 0;        // seconds of the day: start of the transfer
 double timerMark = 0;         // seconds of the day: last estimate
 double remainingEstimate = 0; // seconds, the estimate now shown
 
-StepListener stepListener;
+PublishListener listener;
 
-QLabel* PictureOf(StepState state) {
-    switch (state) {
-    case StepState::Current:
-        return frmMain->imgCurrentStep;
-    case StepState::Done:
-        return frmMain->imgDoneStep;
-    case StepState::Failed:
-        return frmMain->imgFailedStep;
-    case StepState::ToDo:
-        break;
-    }
-    return frmMain->imgToDoStep;
-}
-
-QString StepText(int step) {
-    return frmMain->lblSteps[step]->text();
-}
-
-void ShowState(int step, StepState state) {
-    if (step >= kStepCount) {
+void SetState(int index, StepState state) {
+    if (index >= kStepCount) {
         return;
     }
-    const bool changed = states[step] != state;
-    states[step] = state;
-    QLabel* image = frmMain->imgStep[step];
-    image->setPixmap(PictureOf(state)->pixmap(Qt::ReturnByValue));
-    image->repaint();
-
-    const bool shown = changed && !frmMain->lblSteps[step]->isHidden();
-    if (shown && state == StepState::Current && stepListener.started) {
-        stepListener.started(step, StepText(step));
-    } else if (shown && (state == StepState::Done || state == StepState::Failed) &&
-               stepListener.ended) {
-        stepListener.ended(step, StepText(step), state == StepState::Done);
+    Step& step = steps.at(index);
+    const bool changed = step.state != state;
+    step.state = state;
+    if (changed && !step.text.isEmpty() && listener.step != nullptr) {
+        listener.step(index, state);
     }
 }
 
-void ShowStep(int step, const QString& text) {
-    if (StepText(step) != text) {
-        states[step] = StepState::ToDo; // what the former step came to says nothing about this one
+// What a former step came to says nothing about one with another text.
+void SetText(int index, const QString& text) {
+    if (steps.at(index).text != text) {
+        steps.at(index) = {text, StepState::ToDo};
     }
-    frmMain->lblSteps[step]->setText(text);
-    frmMain->lblSteps[step]->setVisible(!text.isEmpty());
-    frmMain->imgStep[step]->setVisible(!text.isEmpty());
-    ShowState(step, states[step]);
 }
 
 } // namespace
@@ -82,61 +58,80 @@ void SetUpSteps() {
     // The generic trade has no portal.
     const QString portal =
         IsGenericFlavour() ? QString() : QStringLiteral("Sincronizar con %1").arg(VSname);
-    ShowStep(0, "Generar el Contenido Web");
-    ShowStep(1, "Comprobar y Listar los cambios");
+    SetText(0, "Generar el Contenido Web");
+    SetText(1, "Comprobar y Listar los cambios");
     if (StorageMethod == kStorageFTP) {
-        ShowStep(2, "Conectar con el Servidor Web");
-        ShowStep(3, "Enviar los Ficheros al Servidor Web");
-        ShowStep(4, portal);
+        SetText(2, "Conectar con el Servidor Web");
+        SetText(3, "Enviar los Ficheros al Servidor Web");
+        SetText(4, portal);
     } else {
-        ShowStep(2, "Guardar los Ficheros en Carpeta Local");
-        ShowStep(3, portal);
-        ShowStep(4, {});
+        SetText(2, "Guardar los Ficheros en Carpeta Local");
+        SetText(3, portal);
+        SetText(4, {});
     }
+}
+
+QString StepText(int step) {
+    return steps.at(step).text;
+}
+
+StepState StateOfStep(int step) {
+    return steps.at(step).state;
 }
 
 void ResetSteps() {
     for (int step = 0; step < kStepCount; ++step) {
-        ShowState(step, StepState::ToDo);
+        SetState(step, StepState::ToDo);
     }
 }
 
 void StartSteps() {
     StepIndex = 0;
-    ShowState(StepIndex, StepState::Current);
+    SetState(StepIndex, StepState::Current);
 }
 
 void NextStep() {
-    // A failed step keeps its picture until the next run.
-    if (StepIndex < kStepCount && states[StepIndex] != StepState::Failed) {
-        ShowState(StepIndex, StepState::Done);
+    // A failed step stays marked until the next run.
+    if (StepIndex < kStepCount && StateOfStep(StepIndex) != StepState::Failed) {
+        SetState(StepIndex, StepState::Done);
     }
     ++StepIndex;
-    ShowState(StepIndex, StepState::Current);
+    SetState(StepIndex, StepState::Current);
 }
 
 void StepDone() {
-    ShowState(StepIndex, StepState::Done);
+    SetState(StepIndex, StepState::Done);
 }
 
 void StepFailed() {
-    ShowState(StepIndex, StepState::Failed);
+    SetState(StepIndex, StepState::Failed);
 }
 
 void EndSteps() {
-    if (StepIndex < kStepCount && states[StepIndex] == StepState::Current) {
+    if (StepIndex < kStepCount && StateOfStep(StepIndex) == StepState::Current) {
         StepFailed();
     }
 }
 
 bool AnyStepFailed() {
-    return std::find(states.begin(), states.end(), StepState::Failed) != states.end();
+    return std::any_of(steps.begin(), steps.end(),
+                       [](const Step& step) { return step.state == StepState::Failed; });
 }
 
 void SetProgress(int value, int maximum, int minimum, int bar) {
-    QProgressBar* progress = frmMain->prbProgress[bar];
-    progress->setRange(minimum, maximum);
-    progress->setValue(value);
+    if (listener.progress != nullptr) {
+        listener.progress(value, maximum, minimum, bar);
+    }
+}
+
+void SetOverallProgress(int value) {
+    SetProgress(value, kAllTasks, 0, kBarAllTasks);
+}
+
+void ReportActivity(const QString& text) {
+    if (listener.activity != nullptr) {
+        listener.activity(text);
+    }
 }
 
 void ResetTimeRemaining() {
@@ -172,6 +167,12 @@ QString TimeRemaining(double sent, double total) {
     return QString::number(RoundHalfEven(shown / 60), 'f', 0) + " minuto(s) ";
 }
 
-void ListenToSteps(const StepListener& listener) {
-    stepListener = listener;
+void ReportRemaining(const QString& text) {
+    if (listener.remaining != nullptr) {
+        listener.remaining(text);
+    }
+}
+
+void ListenToPublish(const PublishListener& newListener) {
+    listener = newListener;
 }

@@ -81,10 +81,10 @@ bool HasBody(const TemplateSectionRecord& section) {
 }
 
 // Whether every body lies within the file, and together they are a sane amount of memory.
-bool BodiesFit(qint64 fileSize) {
+bool BodiesFit(const TemplateContent& design, qint64 fileSize) {
     qint64 total = 0;
-    for (int i = 0; i < TemplateHeader.SectionCount; ++i) {
-        const TemplateSectionRecord& section = TemplateSections[i];
+    for (int i = 0; i < design.Header.SectionCount; ++i) {
+        const TemplateSectionRecord& section = design.Sections[i];
         if (!HasBody(section)) {
             continue;
         }
@@ -108,59 +108,32 @@ int LengthParam(const QString& params, const QString& key) {
 } // namespace
 
 TemplateHeaderRecord TemplateHeader;
-std::array<TemplateSectionRecord, kMaxSections> TemplateSections;
+SectionTable TemplateSections;
 std::array<QByteArray, kMaxSections> SectionBodies;
 std::vector<int> ImageSections;
-bool TemplateHeld = false;
 
-struct KeptTemplate::State {
-    TemplateHeaderRecord header;
-    std::array<TemplateSectionRecord, kMaxSections> sections;
-    std::array<QByteArray, kMaxSections> bodies;
-    std::vector<OutputFile> files; // moved, since the run stands inside a walk over them
-};
-
-KeptTemplate::KeptTemplate() {
-    if (TemplateHeld) {
-        state = std::make_unique<State>(
-            State{TemplateHeader, TemplateSections, SectionBodies, std::move(OutputFiles)});
-        OutputFiles.clear();
-    }
-}
-
-KeptTemplate::~KeptTemplate() {
-    if (state != nullptr) {
-        TemplateHeader = state->header;
-        TemplateSections = state->sections;
-        SectionBodies = state->bodies;
-        OutputFiles = std::move(state->files);
-    }
-}
-
-void HoldTemplate(bool held) {
-    TemplateHeld = held;
+TemplateContent::TemplateContent() {
+    Bodies.fill(QByteArray(kEmptyBody, sizeof kEmptyBody));
 }
 
 void ResetTemplateState() {
-    TemplateHeader = {};
-    TemplateSections.fill({});
-    SectionBodies.fill(QByteArray(kEmptyBody, sizeof kEmptyBody));
+    UseTemplate({});
     ClearOutputFiles();
 }
 
-bool LoadTemplateHeader(QIODevice& file) {
+bool LoadTemplateHeader(QIODevice& file, TemplateContent& design) {
     const QByteArray record = file.read(kHeaderSize);
     if (record.size() == kHeaderSize) {
-        TemplateHeader = ReadHeader(record);
+        design.Header = ReadHeader(record);
     }
-    if (TemplateHeader.Magic != QLatin1StringView(kMagic)) {
+    if (design.Header.Magic != QLatin1StringView(kMagic)) {
         return RefuseTemplate("Error: no se reconoce el formato de la plantilla seleccionada");
     }
     return true;
 }
 
-bool LoadTemplateSections(QIODevice& file) {
-    const int count = TemplateHeader.SectionCount;
+bool LoadTemplateSections(QIODevice& file, TemplateContent& design) {
+    const int count = design.Header.SectionCount;
     if (count < 0 || count > kMaxSections) {
         return RefuseDamagedTemplate();
     }
@@ -169,17 +142,17 @@ bool LoadTemplateSections(QIODevice& file) {
         return RefuseDamagedTemplate();
     }
     for (int i = 0; i < count; ++i) {
-        TemplateSections[i] = ReadSection(table.mid(qsizetype(i) * kSectionSize, kSectionSize));
+        design.Sections[i] = ReadSection(table.mid(qsizetype(i) * kSectionSize, kSectionSize));
     }
     return true;
 }
 
-bool LoadTemplateBodies(QIODevice& file) {
-    if (!BodiesFit(file.size())) {
+bool LoadTemplateBodies(QIODevice& file, TemplateContent& design) {
+    if (!BodiesFit(design, file.size())) {
         return RefuseDamagedTemplate();
     }
-    for (int i = 0; i < TemplateHeader.SectionCount; ++i) {
-        const TemplateSectionRecord& section = TemplateSections[i];
+    for (int i = 0; i < design.Header.SectionCount; ++i) {
+        const TemplateSectionRecord& section = design.Sections[i];
         if (!HasBody(section)) {
             continue;
         }
@@ -191,26 +164,48 @@ bool LoadTemplateBodies(QIODevice& file) {
         if (body.size() != size) {
             return RefuseDamagedTemplate();
         }
-        if (TemplateHeader.Scrambled == 1) {
+        if (design.Header.Scrambled == 1) {
             Complement(body);
         }
-        SectionBodies[i] = body;
+        design.Bodies[i] = body;
     }
     return true;
 }
 
-bool LoadTemplateFile(const QString& path) {
-    ResetTemplateState();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return RefuseDamagedTemplate();
-    }
-    return LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file);
+bool ReadTemplate(QIODevice& file, TemplateContent& design) {
+    return LoadTemplateHeader(file, design) && LoadTemplateSections(file, design) &&
+           LoadTemplateBodies(file, design);
 }
 
-int FindSection(int kind) {
+bool ReadTemplateFile(const QString& path, TemplateContent& design) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? ReadTemplate(file, design) : RefuseDamagedTemplate();
+}
+
+void UseTemplate(TemplateContent design) {
+    TemplateHeader = std::move(design.Header);
+    TemplateSections = std::move(design.Sections);
+    SectionBodies = std::move(design.Bodies);
+    ImageSections.clear();
+}
+
+bool LoadTemplateFile(const QString& path) {
+    ResetTemplateState();
+    TemplateContent design;
+    if (!ReadTemplateFile(path, design)) {
+        return false;
+    }
+    UseTemplate(std::move(design));
+    return true;
+}
+
+void RenameSection(int section, const QString& name) {
+    TemplateSections.at(section).Name = name;
+}
+
+int FindSection(int kind, const SectionTable& table) {
     for (int i = 0; i < kMaxSections; ++i) {
-        if (TemplateSections[i].Kind == kind) {
+        if (table[i].Kind == kind) {
             return i;
         }
     }
@@ -228,10 +223,10 @@ std::vector<int> FindSections(int kind) {
     return found;
 }
 
-std::vector<int> AllSections(int kind) {
+std::vector<int> AllSections(int kind, const SectionTable& table) {
     std::vector<int> found;
     for (int i = 0; i < kMaxSections; ++i) {
-        if (TemplateSections[i].Kind == kind) {
+        if (table[i].Kind == kind) {
             found.push_back(i);
         }
     }

@@ -1,13 +1,12 @@
 // The design template: a .zdt file with a header of 561 bytes, a table of sections of 239 bytes
 // each, and the sections' bodies. Integers are little-endian, text is Windows-1252, fixed fields
-// are padded with blanks. docs/designs.md describes the format. Owns the loaded template, which is
-// rebuilt at each load.
+// are padded with blanks. docs/designs.md describes the format. Owns the design of the present
+// generation; whoever only looks at one reads it into a TemplateContent.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 #include <array>
-#include <memory>
 #include <vector>
 
 class QIODevice;
@@ -72,56 +71,61 @@ struct TemplateSectionRecord {
     QString Params; // 200 characters, padded
 };
 
+using SectionTable = std::array<TemplateSectionRecord, kMaxSections>; // unused slots have kind 0
+
+// A design as it lies in a file.
+struct TemplateContent {
+    TemplateContent();
+
+    TemplateHeaderRecord Header;
+    SectionTable Sections;
+    std::array<QByteArray, kMaxSections> Bodies; // a single zero byte where there is none
+};
+
+// The design that the present generation works with.
 extern TemplateHeaderRecord TemplateHeader;
-extern std::array<TemplateSectionRecord, kMaxSections> TemplateSections; // unused slots have kind 0
-extern std::array<QByteArray, kMaxSections>
-    SectionBodies; // a single zero byte where nothing was loaded
+extern SectionTable TemplateSections;
+extern std::array<QByteArray, kMaxSections> SectionBodies;
 
 // Every body becomes a single zero byte, header and table are emptied, OutputFiles is cleared.
 // Before each load.
 void ResetTemplateState();
 
-// A run works with the template and its files from HoldTemplate(true) to HoldTemplate(false), and
-// TemplateHeld says so. After a cancel the user has the screens back before the run has noticed:
-// while one lives, a KeptTemplate lets a screen load another one and gives the run its own back.
-extern bool TemplateHeld;
-void HoldTemplate(bool held);
-
-class KeptTemplate {
-public:
-    KeptTemplate();
-    ~KeptTemplate();
-    KeptTemplate(const KeptTemplate&) = delete;
-    KeptTemplate& operator=(const KeptTemplate&) = delete;
-
-private:
-    struct State;
-    std::unique_ptr<State> state; // null where no run needs it
-};
-
+// The steps of reading a design, in this order, each from where the one before has stopped.
+//
 // False after the required warning box if the three characters of the magic are not "KPF" or the
 // file is too short for a header.
-bool LoadTemplateHeader(QIODevice& file);
+bool LoadTemplateHeader(QIODevice& file, TemplateContent& design);
 
-// The table, from the present position; then the bodies. False, after the box "Se ha producido un
-// error al abrir la plantilla de diseño", where a count, position or length doesn't fit the file or
-// the bodies together exceed kMaxBodies: nothing of the table, or no body, is loaded then.
-bool LoadTemplateSections(QIODevice& file);
-bool LoadTemplateBodies(QIODevice& file);
+// The table, then the bodies. False, after the box "Se ha producido un error al abrir la plantilla
+// de diseño", where a count, position or length doesn't fit the file or the bodies together exceed
+// kMaxBodies: nothing of the table, or no body, is read then.
+bool LoadTemplateSections(QIODevice& file, TemplateContent& design);
+bool LoadTemplateBodies(QIODevice& file, TemplateContent& design);
 
-// The whole load in its order: reset, header, table, bodies. False after the box of whichever
-// refused the file, or the damage box for a file that can't be opened.
+// All of them, into `design` alone. False after the box of whichever step refused the file, or the
+// damage box for a file that can't be opened.
+bool ReadTemplate(QIODevice& file, TemplateContent& design);
+bool ReadTemplateFile(const QString& path, TemplateContent& design);
+
+// Makes a design that was read the present generation's.
+void UseTemplate(TemplateContent design);
+
+// Reset, read, use.
 bool LoadTemplateFile(const QString& path);
 
+// Gives a section another name for the rest of the generation.
+void RenameSection(int section, const QString& name);
+
 // First section of the kind in table order, or kNoSection.
-int FindSection(int kind);
+int FindSection(int kind, const SectionTable& table = TemplateSections);
 
 // The LAST section of the kind, or kNoSection, in a list of one; after a hit the next table slot is
 // skipped. Odd, and on purpose: existing designs rely on which section is found.
 std::vector<int> FindSections(int kind);
 
 // Sections of the kind in table order, all of them.
-std::vector<int> AllSections(int kind);
+std::vector<int> AllSections(int kind, const SectionTable& table = TemplateSections);
 
 struct SectionParts {
     QByteArray head;

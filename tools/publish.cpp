@@ -24,7 +24,7 @@ constexpr int kStorageFTP = 1;
 constexpr int kFolderSteps = 3;
 constexpr int kFTPSteps = 4;
 
-// Written by PrintEnd: a step up to the delivery has failed. A file that could not be sent leaves
+// Written by PrintStep: a step up to the delivery has failed. A file that could not be sent leaves
 // the run itself a success, as the button has it.
 bool siteStepFailed = false;
 
@@ -33,15 +33,23 @@ void PrintLine(std::FILE* stream, const QString& line) {
     std::fflush(stream);
 }
 
-void PrintStart(int index, const QString& text) {
-    PrintLine(stdout, QStringLiteral("%1. %2...").arg(index + 1).arg(text));
-}
-
-void PrintEnd(int index, const QString& text, bool done) {
-    PrintLine(stdout,
-              QStringLiteral("%1. %2: %3").arg(index + 1).arg(text, done ? "hecho" : "ERROR"));
-    const int steps = StorageMethod == kStorageFTP ? kFTPSteps : kFolderSteps;
-    siteStepFailed = siteStepFailed || (!done && index < steps);
+void PrintStep(int index, StepState state) {
+    const QString line = QStringLiteral("%1. %2").arg(index + 1).arg(StepText(index));
+    switch (state) {
+    case StepState::ToDo:
+        break;
+    case StepState::Current:
+        PrintLine(stdout, line + "...");
+        break;
+    case StepState::Done:
+        PrintLine(stdout, line + ": hecho");
+        break;
+    case StepState::Failed:
+        PrintLine(stdout, line + ": ERROR");
+        siteStepFailed =
+            siteStepFailed || index < (StorageMethod == kStorageFTP ? kFTPSteps : kFolderSteps);
+        break;
+    }
 }
 
 QString Destination() {
@@ -75,7 +83,7 @@ int main(int argc, char** argv) {
         PrintLine(stderr, "No existe la plantilla de diseño " + TemplPath);
     }
     SetUpSteps();
-    ListenToSteps({PrintStart, PrintEnd});
+    ListenToPublish({.step = PrintStep});
     cmdUpdateWeb_Click(kButtonUpdate);
     if (LastOutcome != PublishOutcome::Delivered || siteStepFailed) {
         PrintLine(stderr, "La web no se ha publicado: " + Destination());

@@ -124,8 +124,8 @@ TEST(Designs, PagesOfAProductTakeQuotesAndItsSheetShowsValuesWithoutGaps) {
         SCOPED_TRACE(design.toStdString());
         const QString packedDesign = Pack(design, packed);
         QString page;
-        for (const char* request : {"PRODUCT|10001", "LAYOUT|10001"}) {
-            page = GeneratePreviewPage(request, packedDesign, catalogue.Snapshot());
+        for (const PreviewPage kind : {PreviewPage::Product, PreviewPage::Layout}) {
+            page = GeneratePreviewPage({kind, "10001"}, packedDesign, catalogue.Snapshot());
             EXPECT_EQ(FindTagsLeft(QFileInfo(page).dir()).join('\n').toStdString(), "");
             EXPECT_EQ(FindMalformedPages(QFileInfo(page).dir()).join('\n').toStdString(), "");
         }
@@ -158,18 +158,23 @@ TEST(Designs, HomesOfTheAgencyShowRentsByTheMonthAndSizesInMetres) {
     QTemporaryDir packed;
     const QString design = Pack("inmobiliaria", packed);
     const struct {
-        const char* page;
+        PreviewRequest request;
         const char* rent; // behind the price
         const char* size; // "" for a page that shows none
     } cases[] = {
-        {"PRODUCT|10001", "</span><span class=\"rent\">/mes</span></p>", "1.200</span> <span"},
-        {"PRODUCT|10002", "</span><span hidden>Pisos</span></p>", "90</span> <span"},
-        {"LAYOUT|10001", "</span> €<span hidden>1.200</span><span class=\"rent\">/mes</span>",
+        {{PreviewPage::Product, "10001"},
+         "</span><span class=\"rent\">/mes</span></p>",
+         "1.200</span> <span"},
+        {{PreviewPage::Product, "10002"},
+         "</span><span hidden>Pisos</span></p>",
+         "90</span> <span"},
+        {{PreviewPage::Layout, "10001"},
+         "</span> €<span hidden>1.200</span><span class=\"rent\">/mes</span>",
          "<td>1.200&nbsp;m²</td>"},
-        {"LAYOUT|10003", "</span> €<span class=\"rent\">/mes</span>", ""},
+        {{PreviewPage::Layout, "10003"}, "</span> €<span class=\"rent\">/mes</span>", ""},
     };
     for (const auto& [request, rent, size] : cases) {
-        SCOPED_TRACE(request);
+        SCOPED_TRACE(request.productId.toStdString());
         const QString page = GeneratePreviewPage(request, design, catalogue.Snapshot());
         QFile file(page);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << page.toStdString();

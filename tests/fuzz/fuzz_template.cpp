@@ -10,7 +10,7 @@
 namespace {
 
 // What the generator does with a loaded design before the catalogue comes in.
-void UseTemplate() {
+void UseDesign() {
     IndexImageSections();
     for (int i = 0; i < kMaxSections; ++i) {
         SplitSectionBody(i);
@@ -41,8 +41,10 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
     file.setData(reinterpret_cast<const char*>(data), qsizetype(size));
     file.open(QIODevice::ReadOnly);
     ResetTemplateState();
-    if (LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file)) {
-        UseTemplate();
+    TemplateContent design;
+    if (ReadTemplate(file, design)) {
+        UseTemplate(std::move(design));
+        UseDesign();
     }
     return 0;
 }

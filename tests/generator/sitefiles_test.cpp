@@ -80,17 +80,17 @@ TEST_F(SiteFiles, FixedPagesFollowTheirKindsAndAPreviewedOneIsNamedInTheTable) {
         .Add(kKindFindUs, "f%LID%", "", "f")
         .Add(kKindAboutUs, "a%LID%", "", "a");
     const struct {
-        const char* request;
+        SectionKind preview;
         const char* result;
         const char* expected;
     } cases[] = {
-        {"", "", "a%LID% ES, f%LID% ES, x%LID% ES, a%LID% EN, f%LID% EN, x%LID% EN"},
-        {"FINDUS", "fES", "a%LID% ES, fES ES, x%LID% ES, a%LID% EN, fES EN, x%LID% EN"},
-        {"ABOUTUS", "aES", "aES ES, f%LID% ES, x%LID% ES, aES EN, f%LID% EN, x%LID% EN"},
+        {kKindNone, "", "a%LID% ES, f%LID% ES, x%LID% ES, a%LID% EN, f%LID% EN, x%LID% EN"},
+        {kKindFindUs, "fES", "a%LID% ES, fES ES, x%LID% ES, a%LID% EN, fES EN, x%LID% EN"},
+        {kKindAboutUs, "aES", "aES ES, f%LID% ES, x%LID% ES, aES EN, f%LID% EN, x%LID% EN"},
     };
     for (const auto& row : cases) {
         Load(design, "", "ES|EN");
-        EXPECT_EQ(BuildFixedPages(row.request), row.result);
-        EXPECT_EQ(Files(), row.expected) << row.request;
+        EXPECT_EQ(BuildFixedPages(row.preview), row.result);
+        EXPECT_EQ(Files(), row.expected) << row.preview;
     }
 }

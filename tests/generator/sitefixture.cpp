@@ -2,16 +2,10 @@
 
 #include "core/settings.h"
 #include "forms/mainform.h"
-#include "generator/choices.h"
-#include "generator/emphasis.h"
-#include "generator/fieldvalues.h"
-#include "generator/zonepages.h"
-#include "generator/zones.h"
+#include "generator/generation.h"
 #include "site/abort.h"
 #include "site/outputs.h"
-#include "site/styles.h"
 #include "site/transforms.h"
-#include "site/weblangs.h"
 #include "text/numbers.h"
 
 std::unique_ptr<MainForm> SiteFixture::form;
@@ -33,15 +27,9 @@ void SiteFixture::Load(const TemplateBuilder& design, const QString& rows, const
     }
     SetUserLangs(langs, langs.left(2));
     SetUICurrentLang(langs.left(2));
-    design.Load();
     SetAbortPublish(false);
-    ResetWebLangs();
-    ResetStyles();
-    ResetChoices();
-    ResetZones();
-    ResetZonePages();
-    ResetEmphasis();
-    ResetActiveFieldDefs();
+    ResetGeneration();
+    design.Load();
 }
 
 std::string SiteFixture::Names() {

@@ -37,11 +37,6 @@ protected:
         return {name, {}, MD5Bytes(data), false, data};
     }
 
-    bool Shows(const QLabel* picture, int step) const {
-        return form.imgStep[step]->pixmap(Qt::ReturnByValue).cacheKey() ==
-               picture->pixmap(Qt::ReturnByValue).cacheKey();
-    }
-
     bool Recorded(const OutputFile& file) const { return IsFileUnchanged(file.Name, file.Md5); }
 
     QString StagingFile() const { return folder.path() + "/kpfftp.tmp"; }
@@ -79,7 +74,7 @@ TEST_F(SendFilesTest, EachFileCostsTwoCommandsAndArrivesWhole) {
     EXPECT_EQ(server.Record().Count("STOR"), 3);
     EXPECT_EQ(server.Record().commands.size(), 3 + 1 + 1 + 2 * 3)
         << server.Record().commands.join('|').constData();
-    EXPECT_TRUE(Shows(form.imgDoneStep, kSendStep));
+    EXPECT_EQ(StateOfStep(kSendStep), StepState::Done);
     EXPECT_FALSE(QFile::exists(StagingFile()));
     EXPECT_EQ(boxes.Texts(), "");
 }
@@ -154,7 +149,7 @@ TEST_F(SendFilesTest, AFailedConnectionIsToldAndNothingIsRecorded) {
         EXPECT_EQ(boxes.Texts(),
                   "Error al conectar con el servidor FTP '127.0.0.1'. " + failure.told);
         EXPECT_EQ(boxes.seen.at(0).icon, QMessageBox::Warning);
-        EXPECT_TRUE(Shows(form.imgFailedStep, kConnectStep));
+        EXPECT_EQ(StateOfStep(kConnectStep), StepState::Failed);
         EXPECT_FALSE(Recorded(files[0]));
         delete &ineFTPSend(); // the next case has a session of its own
     }
@@ -232,7 +227,7 @@ TEST_F(SendFilesTest, ARefusedFileStopsTheSendingButCountsAsSent) {
         EXPECT_TRUE(SendFiles(files));
         EXPECT_EQ(boxes.Texts(), "Error al enviar el archivoa.html. " + refusal.told);
         EXPECT_EQ(boxes.seen.at(0).icon, QMessageBox::Information);
-        EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
+        EXPECT_EQ(StateOfStep(kSendStep), StepState::Failed);
         EXPECT_TRUE(Recorded(files[0]));
         EXPECT_FALSE(Recorded(files[1]));
         EXPECT_TRUE(QFile::exists(StagingFile()));
@@ -290,7 +285,7 @@ TEST_F(SendFilesTest, AFileCutByAResetIsSentAgainOnANewConnection) {
     EXPECT_EQ(server.Record().files["/web/b.html"], "after");
     EXPECT_EQ(server.Record().sessions, 3);
     EXPECT_EQ(boxes.Texts(), "");
-    EXPECT_TRUE(Shows(form.imgDoneStep, kSendStep));
+    EXPECT_EQ(StateOfStep(kSendStep), StepState::Done);
 }
 
 // A big file is cut, a small one refused when the server has it all.
@@ -303,7 +298,7 @@ TEST_F(SendFilesTest, AServerOutOfRoomIsToldAndNotTriedForEver) {
         std::vector<OutputFile> files = {File("big.jpg", QByteArray(size, 'j'))};
         EXPECT_TRUE(SendFiles(files));
         EXPECT_EQ(boxes.Texts(), "Error al enviar el archivobig.jpg. 452 No room left (12003).");
-        EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
+        EXPECT_EQ(StateOfStep(kSendStep), StepState::Failed);
         StartSteps();
         NextStep();
         NextStep();
@@ -316,7 +311,7 @@ TEST_F(SendFilesTest, AServerThatRefusesDataEndsTheSending) {
     server.Misbehave(faults);
     std::vector<OutputFile> files = {File("a.html", "text")};
     EXPECT_TRUE(SendFiles(files));
-    EXPECT_TRUE(Shows(form.imgFailedStep, kSendStep));
+    EXPECT_EQ(StateOfStep(kSendStep), StepState::Failed);
     EXPECT_EQ(boxes.seen.size(), 1U);
 }
 

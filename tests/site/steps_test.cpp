@@ -1,10 +1,11 @@
-// The display of a publish: its steps, bars and remaining time.
+// Steps of a publish and the remaining time.
 #include "site/steps.h"
 
 #include "core/flavour.h"
 #include "core/settings.h"
-#include "forms/mainform.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <ctime>
 #include <gtest/gtest.h>
@@ -45,31 +46,22 @@ protected:
                       qRound64(secondsOfDay * double(kMicroseconds));
     }
 
-    // "text" of each step shown, joined by "|".
-    std::string Texts() const {
+    // Of the steps of the run, joined by "|".
+    static std::string Texts() {
         QStringList texts;
         for (int step = 0; step < kStepCount; ++step) {
-            EXPECT_EQ(form.imgStep[step]->isHidden(), form.lblSteps[step]->isHidden());
-            if (!form.lblSteps[step]->isHidden()) {
-                texts += form.lblSteps[step]->text();
-            }
+            texts += StepText(step);
         }
+        texts.removeAll(QString());
         return texts.join(u'|').toStdString();
     }
 
-    std::string States() const {
-        const QLabel* kPictures[] = {form.imgToDoStep, form.imgCurrentStep, form.imgDoneStep,
-                                     form.imgFailedStep};
-        QString letters;
-        for (const QLabel* image : form.imgStep) {
-            for (int state = 0; state < 4; ++state) {
-                if (image->pixmap(Qt::ReturnByValue).cacheKey() ==
-                    kPictures[state]->pixmap(Qt::ReturnByValue).cacheKey()) {
-                    letters += QStringLiteral("tcdf")[state];
-                }
-            }
+    static std::string States() {
+        std::string letters;
+        for (int step = 0; step < kStepCount; ++step) {
+            letters += "tcdf"[static_cast<int>(StateOfStep(step))];
         }
-        return letters.toStdString();
+        return letters;
     }
 
     void UseAgencies() {
@@ -86,7 +78,6 @@ protected:
     }
 
     QTemporaryDir folder;
-    MainForm form;
 };
 
 } // namespace
@@ -143,18 +134,6 @@ TEST_F(StepsTest, EachChangeShowsInTheCurrentStepAndAFailureStays) {
     EXPECT_EQ(States(), "ddddd");
     EXPECT_EQ(StepIndex, kStepCount);
     EXPECT_FALSE(AnyStepFailed());
-}
-
-TEST_F(StepsTest, ABarTakesItsRangeWithEachValue) {
-    SetProgress(4, 10, 0, 1);
-    SetProgress(250, 40000, 0, 0);
-    SetProgress(3, 5, 1, 0);
-    SetProgress(7, 10, 0, 1);
-    EXPECT_EQ(form.prbProgress[0]->value(), 3);
-    EXPECT_EQ(form.prbProgress[0]->minimum(), 1);
-    EXPECT_EQ(form.prbProgress[0]->maximum(), 5);
-    EXPECT_EQ(form.prbProgress[1]->value(), 7);
-    EXPECT_EQ(form.prbProgress[1]->maximum(), 10);
 }
 
 // Each line: seconds since the start, bytes sent of 10,000 and the text that is then shown.

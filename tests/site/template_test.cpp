@@ -34,7 +34,10 @@ bool LoadBytes(const QByteArray& bytes) {
     file.setData(bytes);
     file.open(QIODevice::ReadOnly);
     ResetTemplateState();
-    return LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file);
+    TemplateContent design;
+    const bool read = ReadTemplate(file, design);
+    UseTemplate(std::move(design));
+    return read;
 }
 
 } // namespace

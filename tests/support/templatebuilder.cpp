@@ -98,5 +98,7 @@ void TemplateBuilder::Load() const {
     file.setData(Bytes());
     file.open(QIODevice::ReadOnly);
     ResetTemplateState();
-    EXPECT_TRUE(LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file));
+    TemplateContent design;
+    EXPECT_TRUE(ReadTemplate(file, design));
+    UseTemplate(std::move(design));
 }

@@ -62,7 +62,9 @@ void Load(QByteArray bytes) {
     QBuffer file(&bytes);
     file.open(QIODevice::ReadOnly);
     ResetTemplateState();
-    ASSERT_TRUE(LoadTemplateHeader(file) && LoadTemplateSections(file) && LoadTemplateBodies(file));
+    TemplateContent design;
+    ASSERT_TRUE(ReadTemplate(file, design));
+    UseTemplate(std::move(design));
 }
 
 } // namespace
