@@ -120,41 +120,42 @@ void FillSnapshotTexts(benchmark::State& state) {
     FillAgainstPlain(state, kTexts);
 }
 
-// What the generator does for each text of each page; the filter's text is made as it makes it.
+// Ids of kFilters products, as the generator has them.
+std::vector<QString> ProductIds() {
+    std::vector<QString> ids;
+    ids.reserve(kFilters);
+    for (int product = 0; product < kFilters; ++product) {
+        ids.push_back(QString::number(kFirstProduct + product * 7));
+    }
+    return ids;
+}
+
+// What the generator does for the texts of each page.
 void FilterTextsOfOneProduct(benchmark::State& state) {
     Recordset texts = Cursor(kTexts);
-    texts.SetFilter("TableName = '' AND ItemId = '' AND LangCode = '' AND FieldDefId = ''");
-    std::vector<QString> filters;
-    filters.reserve(kFilters);
-    for (int product = 0; product < kFilters; ++product) {
-        filters.push_back(QStringLiteral("TableName = 'Products' AND ItemId = '%1' AND LangCode = "
-                                         "'EN' AND FieldDefId = '%2'")
-                              .arg(kFirstProduct + product * 7)
-                              .arg(product % 3));
-    }
+    const std::vector<QString> ids = ProductIds();
+    const int table = texts.Column(u"TableName");
+    const int item = texts.Column(u"ItemId");
+    texts.SetFilter({{table, {}}, {item, {}}});
     size_t next = 0;
     qint64 length = 0;
     for (auto _ : state) {
-        texts.SetFilter(filters[next]);
+        texts.SetFilter({{table, u"Products"}, {item, ids[next]}});
         length += texts.Text(u"FieldValue").size();
-        next = (next + 1) % filters.size();
+        next = (next + 1) % ids.size();
     }
     benchmark::DoNotOptimize(length);
 }
 
 void FilterByProductId(benchmark::State& state) {
     Recordset products = Cursor("SELECT * FROM Products");
-    std::vector<QString> filters;
-    filters.reserve(kFilters);
-    for (int product = 0; product < kFilters; ++product) {
-        filters.push_back(QStringLiteral("ProductId = %1").arg(kFirstProduct + product * 7));
-    }
-    products.SetFilter(filters[0]);
+    const std::vector<QString> ids = ProductIds();
+    products.SetFilter({{u"ProductId", {}}});
     size_t next = 0;
     for (auto _ : state) {
-        products.SetFilter(filters[next]);
+        products.SetFilter({{u"ProductId", ids[next]}});
         benchmark::DoNotOptimize(products.Number(u"PriceAmount"));
-        next = (next + 1) % filters.size();
+        next = (next + 1) % ids.size();
     }
 }
 
@@ -162,8 +163,10 @@ void IndexTexts(benchmark::State& state) {
     Recordset texts = Cursor(kTexts);
     for (auto _ : state) {
         Recordset clone = texts.Clone();
-        clone.SetFilter("TableName = 'Products' AND ItemId = '10001' AND LangCode = 'EN' AND "
-                        "FieldDefId = '0'");
+        clone.SetFilter({{u"TableName", u"Products"},
+                         {u"ItemId", u"10001"},
+                         {u"LangCode", u"EN"},
+                         {u"FieldDefId", u"0"}});
         benchmark::DoNotOptimize(clone.RecordCount());
     }
 }

@@ -1,112 +1,10 @@
 #include "engine/filterindex.h"
 
-#include "engine/storeerror.h"
-
 #include <bit>
 
 namespace {
 
 constexpr int kNoGroup = -1;
-
-[[noreturn]] void RefuseFilter(QStringView filter) {
-    throw StoreError(kErrStatement, QStringLiteral("El filtro no es válido: %1").arg(filter));
-}
-
-// Reads a filter's text from left to right.
-class FilterReader {
-public:
-    explicit FilterReader(QStringView filter) : text(filter) {}
-
-    bool AtEnd() {
-        SkipBlanks();
-        return at == text.size();
-    }
-
-    FilterTerm TakeTerm() {
-        FilterTerm term;
-        term.column = TakeName();
-        SkipBlanks();
-        Demand(Peek() == u'=');
-        ++at;
-        SkipBlanks();
-        const QChar first = Peek();
-        if (first == u'\'' || first == u'"') {
-            term.quote = first;
-            term.value = TakeQuoted(first);
-        } else {
-            term.value = TakeNumber();
-        }
-        return term;
-    }
-
-    void TakeAnd() { Demand(TakeName().compare(QLatin1String("and"), Qt::CaseInsensitive) == 0); }
-
-private:
-    QChar Peek() const { return at < text.size() ? text[at] : QChar(); }
-
-    void Demand(bool condition) const {
-        if (!condition) {
-            RefuseFilter(text);
-        }
-    }
-
-    void SkipBlanks() {
-        while (Peek().isSpace()) {
-            ++at;
-        }
-    }
-
-    QStringView TakeName() {
-        SkipBlanks();
-        if (Peek() == u'[') {
-            const qsizetype end = text.indexOf(u']', at);
-            Demand(end > at);
-            const QStringView name = text.mid(at + 1, end - at - 1);
-            at = end + 1;
-            return name;
-        }
-        const qsizetype start = at;
-        while (Peek().isLetterOrNumber() || Peek() == u'_') {
-            ++at;
-        }
-        Demand(at > start);
-        return text.mid(start, at - start);
-    }
-
-    QStringView TakeQuoted(QChar quote) {
-        const qsizetype start = ++at;
-        while (true) {
-            Demand(at < text.size());
-            if (text[at] == quote) {
-                if (at + 1 >= text.size() || text[at + 1] != quote) {
-                    break;
-                }
-                ++at;
-            }
-            ++at;
-        }
-        ++at;
-        return text.mid(start, at - 1 - start);
-    }
-
-    QStringView TakeNumber() {
-        const qsizetype start = at;
-        if (Peek() == u'-') {
-            ++at;
-        }
-        const qsizetype digits = at;
-        bool point = false;
-        while (Peek().isDigit() || (Peek() == u'.' && !point)) {
-            point = point || Peek() == u'.';
-            ++at;
-        }
-        Demand(at - digits > (point ? 1 : 0) && !Peek().isLetterOrNumber() && Peek() != u'.');
-        return text.mid(start, at - start);
-    }
-
-    QStringView text;
-    qsizetype at = 0;
-};
 
 char16_t Folded(QChar character) {
     const char16_t unit = character.unicode();
@@ -147,33 +45,6 @@ size_t PlaceOf(quint64 hash, size_t size) {
 }
 
 } // namespace
-
-void ParseFilter(QStringView filter, std::vector<FilterTerm>& terms) {
-    terms.clear();
-    FilterReader reader(filter);
-    while (!reader.AtEnd()) {
-        if (!terms.empty()) {
-            reader.TakeAnd();
-        }
-        terms.push_back(reader.TakeTerm());
-    }
-}
-
-QStringView TermText(const FilterTerm& term, QString& buffer) {
-    if (term.quote.isNull()) {
-        if (!term.value.contains(u'.') && term.value.size() < 16 && term.value[0] != u'-' &&
-            (term.value[0] != u'0' || term.value.size() == 1)) {
-            return term.value; // as CellText would write it
-        }
-        buffer = CellText(term.value.toDouble());
-        return buffer;
-    }
-    if (!term.value.contains(term.quote)) {
-        return term.value;
-    }
-    buffer = term.value.toString().replace(QString(2, term.quote), QString(term.quote));
-    return buffer;
-}
 
 FilterIndex::FilterIndex(const ResultSet& result, std::span<const int> rows,
                          std::vector<int> keyColumns)

@@ -1,5 +1,5 @@
-// Filters of a cursor: conjunctions of equalities, read from their text and answered from a hash
-// index over the columns that they name.
+// Filters of a cursor: conjunctions of equalities, answered from a hash index over the columns that
+// they name.
 #pragma once
 
 #include "engine/resultset.h"
@@ -7,20 +7,6 @@
 #include <QStringView>
 #include <span>
 #include <vector>
-
-// One equality. The views live as long as the filter's text.
-struct FilterTerm {
-    QStringView column;
-    QStringView value;
-    QChar quote; // of a quoted value, whose own quotes are still doubled; Null for a number
-};
-
-// "A = 1 AND B = 'x'" into `terms`. kErrStatement for anything else; an empty text has no terms.
-void ParseFilter(QStringView filter, std::vector<FilterTerm>& terms);
-
-// The text that a term's value is compared as. `buffer` keeps it where it differs from the
-// filter's own text.
-QStringView TermText(const FilterTerm& term, QString& buffer);
 
 // The rows of a result by the values of some columns: numbers by their plain decimal text, texts
 // without regard to case. A Null equals nothing.

@@ -4,6 +4,7 @@
 #include "engine/rowwriter.h"
 #include "engine/storeengine.h"
 
+#include <QVarLengthArray>
 #include <algorithm>
 #include <numeric>
 #include <span>
@@ -17,18 +18,7 @@ constexpr int kNoRow = -1;
     throw StoreError(kErrNoCurrentRow, QStringLiteral("No hay ningún registro actual"));
 }
 
-// What SetFilter works with, kept for its memory between calls.
-struct FilterScratch {
-    struct Key {
-        int column;
-        QStringView text;
-    };
-    std::vector<FilterTerm> terms;
-    std::vector<QString> buffers; // of the terms' texts
-    std::vector<Key> keys;
-    std::vector<int> columns;
-    std::vector<QStringView> texts;
-};
+constexpr int kUsualTerms = 8; // of a filter; more of them cost an allocation
 
 } // namespace
 
@@ -47,7 +37,6 @@ struct Recordset::Data {
     std::vector<int> ownView;  // the filter's rows once the indexes are gone
     std::span<const int> view; // the filter's rows: in an index or in ownView
     std::vector<std::unique_ptr<FilterIndex>> indexes;
-    FilterScratch scratch;
 
     int position = kNoRow;    // of the current row among the rows let through, from 0
     int afterDelete = kNoRow; // where MoveNext goes after a Delete
@@ -64,6 +53,12 @@ struct Recordset::Data {
     void RequireOpen() const {
         if (!open) {
             throw StoreError(kErrNotOpen, QStringLiteral("El cursor no está abierto"));
+        }
+    }
+
+    void RequireColumn(int column) const {
+        if (column < 0 || column >= static_cast<int>(result.columns.size())) {
+            throw StoreError(kErrNoColumn, QStringLiteral("No existe la columna %1").arg(column));
         }
     }
 
@@ -150,13 +145,14 @@ struct Recordset::Data {
         return pending[row] = {PendingKind::Edited, result.rows.Row(row)};
     }
 
-    const FilterIndex& IndexOver(const std::vector<int>& columns) {
+    const FilterIndex& IndexOver(std::span<const int> columns) {
         for (const auto& index : indexes) {
-            if (index->KeyColumns() == columns) {
+            if (std::ranges::equal(index->KeyColumns(), columns)) {
                 return *index;
             }
         }
-        indexes.push_back(std::make_unique<FilterIndex>(result, live, columns));
+        indexes.push_back(std::make_unique<FilterIndex>(
+            result, live, std::vector<int>(columns.begin(), columns.end())));
         return *indexes.back();
     }
 };
@@ -261,32 +257,29 @@ bool Recordset::HasRow() const {
     return d->position != kNoRow;
 }
 
-void Recordset::SetFilter(const QString& filter) {
+void Recordset::SetFilter(std::initializer_list<ColumnEquals> terms) {
     d->RequireOpen();
-    FilterScratch& scratch = d->scratch;
-    ParseFilter(filter, scratch.terms);
-    if (scratch.terms.empty()) {
-        d->filtered = false;
-        d->MoveTo(0);
+    if (terms.size() == 0) {
+        ClearFilter();
         return;
     }
-    const size_t terms = scratch.terms.size();
-    scratch.buffers.resize(terms);
-    scratch.keys.clear();
-    for (size_t term = 0; term < terms; ++term) {
-        scratch.keys.push_back({Column(scratch.terms[term].column),
-                                TermText(scratch.terms[term], scratch.buffers[term])});
+    QVarLengthArray<int, kUsualTerms> columns; // ascending, as an index has them
+    QVarLengthArray<QStringView, kUsualTerms> texts;
+    for (const ColumnEquals& term : terms) {
+        const int column = term.place < 0 ? Column(term.name) : term.place;
+        d->RequireColumn(column);
+        const auto place = std::upper_bound(columns.begin(), columns.end(), column);
+        texts.insert(place - columns.begin(), term.text);
+        columns.insert(place, column);
     }
-    std::sort(scratch.keys.begin(), scratch.keys.end(),
-              [](const auto& left, const auto& right) { return left.column < right.column; });
-    scratch.columns.clear();
-    scratch.texts.clear();
-    for (const FilterScratch::Key& key : scratch.keys) {
-        scratch.columns.push_back(key.column);
-        scratch.texts.push_back(key.text);
-    }
-    d->view = d->IndexOver(scratch.columns).Find(d->result, scratch.texts);
+    d->view = d->IndexOver(columns).Find(d->result, texts);
     d->filtered = true;
+    d->MoveTo(0);
+}
+
+void Recordset::ClearFilter() {
+    d->RequireOpen();
+    d->filtered = false;
     d->MoveTo(0);
 }
 
@@ -370,9 +363,7 @@ const QString& Recordset::ColumnName(int column) const {
 
 Cell Recordset::Value(int column) const {
     d->RequireOpen();
-    if (column < 0 || column >= ColumnCount()) {
-        throw StoreError(kErrNoColumn, QStringLiteral("No existe la columna %1").arg(column));
-    }
+    d->RequireColumn(column);
     return d->result.rows.At(d->CurrentRow(), column);
 }
 

@@ -14,9 +14,23 @@
 #include "engine/storeerror.h"
 
 #include <QString>
+#include <QStringView>
+#include <initializer_list>
 #include <memory>
 
 class StoreConnection;
+
+// One equality of a filter, by the column's place or name. `text` is what the field's text must be,
+// without regard to case: a number in plain decimal, as CellText writes it. Null equals nothing.
+// The views must outlive the call that the term is given to, no more.
+struct ColumnEquals {
+    ColumnEquals(int columnPlace, QStringView fieldText) : place(columnPlace), text(fieldText) {}
+    ColumnEquals(QStringView columnName, QStringView fieldText)
+        : name(columnName), text(fieldText) {}
+    QStringView name;
+    int place = -1; // -1: by name
+    QStringView text;
+};
 
 class Recordset {
 public:
@@ -54,13 +68,13 @@ public:
     void MoveNext();  // past the last row: none current
     bool HasRow() const;
 
-    // Conjunctions of equalities: "ProductId = 10001", "TableName = 'Products' AND ItemId =
-    // '10001'". A number may be quoted; a quote inside a quoted value is doubled; texts are
-    // compared without regard to case. Empty takes the filter away. The first row that passes
-    // becomes current. Answered from a hash index that lives until the rows change; the rows let
-    // through stay the same until the next SetFilter, whatever is written to them, and an added
-    // row joins them. Anything else is kErrStatement.
-    void SetFilter(const QString& filter);
+    // Lets through the rows in which every term holds; the first of them becomes current. Answered
+    // from a hash index over the terms' columns that lives until the rows change: thousands of
+    // filters on the same columns cost one look-up each. The rows let through stay the same until
+    // the next filter, whatever is written to them, and an added row joins them. kErrNoColumn for
+    // a column that is absent.
+    void SetFilter(std::initializer_list<ColumnEquals> terms);
+    void ClearFilter(); // lets all rows through; so does SetFilter without terms
 
     // Appends an empty row (all Null) and makes it current.
     void AddNew();

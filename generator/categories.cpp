@@ -21,8 +21,7 @@ QStringList ReadCategoryValues(Recordset& texts, const QString& fieldRef, const 
     const QString field = NthField(fieldRef, 2, u"."_s);
     const int valueColumn = texts.Column(u"FieldValue");
     QStringList values;
-    texts.SetFilter(u"TableName = "_s + QuotedValue(table) + u" AND FieldDefId = "_s +
-                    QuotedValue(field) + u" AND LangCode = "_s + QuotedValue(lang));
+    texts.SetFilter({{u"TableName", table}, {u"FieldDefId", field}, {u"LangCode", lang}});
     for (; texts.HasRow(); texts.MoveNext()) {
         const QString value = texts.Text(valueColumn);
         values.append(value.isEmpty() ? u"(Sin Categoria)"_s : value);

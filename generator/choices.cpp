@@ -8,6 +8,7 @@
 #include "store/taggedtext.h"
 #include "text/ansi.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 std::vector<ChoiceBlock> ChoiceBlocks;
@@ -28,6 +29,16 @@ QByteArray ChoiceListText(const SectionParts& parts, const std::vector<ChoiceIte
     return text + parts.tail;
 }
 
+// A field's number in plain decimal, as a design writes it.
+QString FieldNumber(const QString& fieldId) {
+    static const QRegularExpression kNumber(
+        QRegularExpression::anchoredPattern(u"\\s*-?(\\d+\\.?\\d*|\\.\\d+)\\s*"_s));
+    if (!kNumber.match(fieldId).hasMatch()) {
+        throw StoreError(kErrStatement, u"El filtro no es válido: FieldDefID = "_s + fieldId);
+    }
+    return CellText(fieldId.toDouble());
+}
+
 } // namespace
 
 void ResetChoices() {
@@ -38,13 +49,14 @@ void LoadChoiceItems(SiteSnapshot& snapshot, const QString& fieldId, const QStri
                      std::vector<ChoiceItem>& items) {
     items.clear();
     Recordset& defs = snapshot[kSnapFieldDefs];
-    defs.SetFilter(u"FieldDefID = "_s + fieldId);
+    const QString number = FieldNumber(fieldId);
+    defs.SetFilter({{u"FieldDefId", number}});
     const QString choices = defs.HasRow() ? defs.Text(u"Choices") : QString();
 
     Recordset& fields = snapshot[kSnapProductFields];
     const int valueColumn = fields.Column(u"FieldValue");
     QSet<QString> known;
-    for (fields.SetFilter(u"FieldDefID = "_s + fieldId); fields.HasRow(); fields.MoveNext()) {
+    for (fields.SetFilter({{u"FieldDefId", number}}); fields.HasRow(); fields.MoveNext()) {
         const QString value = fields.Text(valueColumn);
         if (!value.isEmpty() && !known.contains(value)) {
             known.insert(value);

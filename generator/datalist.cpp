@@ -60,7 +60,7 @@ public:
 
     DataLists Collect() {
         Recordset& products = snapshot[kSnapProducts];
-        products.SetFilter({});
+        products.ClearFilter();
         const int count = products.RecordCount();
         for (int place = 1; products.HasRow(); ++place, products.MoveNext()) {
             separator = place < count ? ',' : ' ';

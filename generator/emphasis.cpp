@@ -54,7 +54,7 @@ void ResetEmphasis() {
 void BuildEmphasisBlocks(SiteSnapshot& snapshot) {
     EmphasisBlock1.assign(WebLangs.size(), {});
     EmphasisBlock2.assign(WebLangs.size(), {});
-    snapshot[kSnapProducts].SetFilter({});
+    snapshot[kSnapProducts].ClearFilter();
     if (snapshot[kSnapProducts].RecordCount() == 0) {
         return;
     }

@@ -21,7 +21,7 @@ QByteArray KeyTag(const QString& key) {
 }
 
 void ReadFieldDefs(FieldSources& sources, Recordset& rows) {
-    rows.SetFilter({});
+    rows.ClearFilter();
     for (rows.MoveFirst(); rows.HasRow(); rows.MoveNext()) {
         FieldDef def;
         def.Id = rows.Integer(u"FieldDefId");
@@ -48,7 +48,7 @@ FieldSources::TextTable* FindTextTable(FieldSources& sources, QStringView name) 
 }
 
 void ReadLangFieldDefs(FieldSources& sources, Recordset& rows) {
-    rows.SetFilter({});
+    rows.ClearFilter();
     for (rows.MoveFirst(); rows.HasRow(); rows.MoveNext()) {
         const QString name = rows.Text(u"TableName");
         FieldSources::TextTable* table = FindTextTable(sources, name);
@@ -117,27 +117,6 @@ void CloseUpFields(FieldList& list) {
     }
 }
 
-void AppendQuoted(QString& filter, const QString& value) {
-    if (value.contains(u'\'')) {
-        filter += QuotedValue(value);
-    } else {
-        filter += u'\'';
-        filter += value;
-        filter += u'\'';
-    }
-}
-
-// Lets the texts of one item through, in all languages.
-void FilterTexts(FieldSources& sources, const QString& tableName, const QString& itemId) {
-    QString& filter = sources.Filter;
-    filter.resize(0);
-    filter += u"TableName = ";
-    AppendQuoted(filter, tableName);
-    filter += u" AND ItemId = ";
-    AppendQuoted(filter, itemId);
-    sources.LangFields.SetFilter(filter);
-}
-
 // Puts the text of the current row into its place in a list of its language.
 void TakeText(const FieldSources& sources, const FieldSources::TextTable& table, FieldList& list) {
     const qint64 id = CellInteger(sources.LangFields.Value(sources.TextIdColumn));
@@ -161,8 +140,10 @@ void ReplaceItem(TagText& text, const FieldItem& item, EmptyShows empty) {
 
 FieldSources::FieldSources(SiteSnapshot& snapshot)
     : Fields(snapshot[kSnapProductFields]), LangFields(snapshot[kSnapLangFields]),
-      FieldIdColumn(Fields.Column(u"FieldDefId")), FieldValueColumn(Fields.Column(u"FieldValue")),
-      TextLangColumn(LangFields.Column(u"LangCode")),
+      FieldProductColumn(Fields.Column(u"ProductId")), FieldIdColumn(Fields.Column(u"FieldDefId")),
+      FieldValueColumn(Fields.Column(u"FieldValue")),
+      TextTableColumn(LangFields.Column(u"TableName")),
+      TextItemColumn(LangFields.Column(u"ItemId")), TextLangColumn(LangFields.Column(u"LangCode")),
       TextIdColumn(LangFields.Column(u"FieldDefId")),
       TextValueColumn(LangFields.Column(u"FieldValue")) {
     ReadFieldDefs(*this, snapshot[kSnapFieldDefs]);
@@ -171,10 +152,6 @@ FieldSources::FieldSources(SiteSnapshot& snapshot)
 
 void ResetActiveFieldDefs() {
     ActiveFieldDefs.clear();
-}
-
-QString QuotedValue(QString value) {
-    return u'\'' + value.replace(u'\'', QLatin1String("''")) + u'\'';
 }
 
 int ChoiceNumber(const QString& stored) {
@@ -198,7 +175,8 @@ void LoadProductFields(FieldSources& sources, const QString& productId, const QS
                        int marker, FieldList& list) {
     list.clear();
     Recordset& rows = sources.Fields;
-    for (rows.SetFilter(u"ProductId = "_s + productId); rows.HasRow(); rows.MoveNext()) {
+    for (rows.SetFilter({{sources.FieldProductColumn, productId}}); rows.HasRow();
+         rows.MoveNext()) {
         list.push_back(ReadFieldRow(sources, lang));
     }
     if (marker == kLayoutMarker) {
@@ -228,7 +206,8 @@ void LoadLangFields(FieldSources& sources, const QString& itemId, const QString&
         return;
     }
     Recordset& rows = sources.LangFields;
-    for (FilterTexts(sources, tableName, itemId); rows.HasRow(); rows.MoveNext()) {
+    rows.SetFilter({{sources.TextTableColumn, tableName}, {sources.TextItemColumn, itemId}});
+    for (; rows.HasRow(); rows.MoveNext()) {
         const QString lang = rows.Text(sources.TextLangColumn);
         for (qsizetype place = 0; place < langs.size(); ++place) {
             if (lang.compare(langs[place], Qt::CaseInsensitive) == 0) {
@@ -246,7 +225,7 @@ FieldList LoadLangFields(FieldSources& sources, const QString& itemId, const QSt
 }
 
 QString MainPictureId(const QString& productId, Recordset& pictures) {
-    pictures.SetFilter(u"ProductId = "_s + productId);
+    pictures.SetFilter({{u"ProductId", productId}});
     return pictures.HasRow() ? pictures.Text(u"PictureId") : u"nopicture"_s;
 }
 

@@ -58,9 +58,11 @@ struct FieldSources {
     std::vector<FieldDef> Defs; // in the order of the store
     std::vector<TextTable> TextTables;
     QHash<qint64, int> DefById; // place in Defs of the first definition with that number
-    QString Filter;             // scratch, kept for its memory
+    int FieldProductColumn;
     int FieldIdColumn;
     int FieldValueColumn;
+    int TextTableColumn;
+    int TextItemColumn;
     int TextLangColumn;
     int TextIdColumn;
     int TextValueColumn;
@@ -72,9 +74,6 @@ extern QStringList ActiveFieldDefs;
 
 // At the beginning of a generation.
 void ResetActiveFieldDefs();
-
-// A value as a filter writes it, between quotes.
-QString QuotedValue(QString value);
 
 // The number of a choice, from 0, that a stored value names; -1 when it is beyond 16 bits or below
 // 0. A text that is no number counts by the number it begins with.

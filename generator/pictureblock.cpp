@@ -57,8 +57,7 @@ QByteArray BuildPictureBlock(const PictureFrames& frames, const QString& product
     }
     QByteArray text = frames.Head;
     bool first = true;
-    for (pictures.SetFilter(u"ProductId = "_s + productId); pictures.HasRow();
-         pictures.MoveNext()) {
+    for (pictures.SetFilter({{u"ProductId", productId}}); pictures.HasRow(); pictures.MoveNext()) {
         const PictureRow row{pictures.Text(u"PictureId"), productId,
                              pictures.Text(u"ProdPictureId")};
         const FieldList texts = LoadLangFields(sources, row.pictureId, u"Pictures"_s, lang);

@@ -132,7 +132,11 @@ QString BuildProductPages(const QString& productId, int layoutMarker, bool chang
     }
     PagePass pass(snapshot, section, layoutMarker);
     Recordset& products = snapshot[kSnapProducts];
-    products.SetFilter(productId.isEmpty() ? QString() : u"ProductID = "_s + productId);
+    if (productId.isEmpty()) {
+        products.ClearFilter();
+    } else {
+        products.SetFilter({{u"ProductId", productId}});
+    }
     const SiteProductReader reader(products);
     const ChangeTest changes;
     const bool all = !changedOnly || !productId.isEmpty();
@@ -143,6 +147,6 @@ QString BuildProductPages(const QString& productId, int layoutMarker, bool chang
             BuildPages(pass, reader.Read());
         }
     }
-    products.SetFilter({});
+    products.ClearFilter();
     return pass.pageName;
 }

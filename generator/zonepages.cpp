@@ -26,11 +26,11 @@ QByteArray ZoneListing(const SectionParts& parts, const ZoneLang& zone, SiteSnap
     const SiteProductReader reader(products);
     const TagText middle(parts.middle);
     QByteArray text = parts.head;
-    products.SetFilter(u"SaleZone = "_s + QuotedValue(zone.SaleZone));
+    products.SetFilter({{u"SaleZone", zone.SaleZone}});
     for (; products.HasRow(); products.MoveNext()) {
         text += ExpandListRow(middle, reader.Read(), zone.Lang, sources, snapshot[kSnapPictures]);
     }
-    products.SetFilter({});
+    products.ClearFilter();
     return text + parts.tail;
 }
 

@@ -25,7 +25,7 @@ QSet<QString> knownZoneLangs; // the three texts, joined by NUL
 void ReadZoneCodes(Recordset& zones) {
     ZoneCodes.clear();
     codeByZone.clear();
-    zones.SetFilter({});
+    zones.ClearFilter();
     for (zones.MoveFirst(); zones.HasRow(); zones.MoveNext()) {
         const QString zone = zones.Text(u"SaleZone");
         if (zone.isEmpty()) {

@@ -125,7 +125,7 @@ void RenderProductPictures(const QString& productId, const QString& productRef,
     if (demands.empty()) {
         return;
     }
-    pictures.SetFilter("ProductId = " + productId);
+    pictures.SetFilter({{u"ProductId", productId}});
     for (pictures.MoveFirst(); pictures.HasRow(); pictures.MoveNext()) {
         try {
             AddOutputs(ReadFor(demands, PicturePath(pictures)), demands,

@@ -10,9 +10,9 @@ namespace {
 constexpr char kAllTexts[] = "SELECT * FROM Texts ORDER BY rowid";
 
 // The FieldValue of each row that the filter lets through.
-std::string Filtered(Recordset& cursor, const QString& filter) {
+std::string Filtered(Recordset& cursor, std::initializer_list<ColumnEquals> terms) {
     QStringList values;
-    for (cursor.SetFilter(filter); cursor.HasRow(); cursor.MoveNext()) {
+    for (cursor.SetFilter(terms); cursor.HasRow(); cursor.MoveNext()) {
         values += cursor.Text(u"FieldValue");
     }
     return values.join(",").toStdString();
@@ -199,32 +199,29 @@ TEST(Recordset, DeletesFromTheFrontAndWalksOn) {
 TEST(Recordset, FilterLetsEqualRowsThrough) {
     StoreFixture store;
     Recordset rows = store.Cursor(kAllTexts);
-    const std::pair<const char*, const char*> cases[] = {
-        {"ItemId = 10001", "Casa,Lejos,Foto"},
-        {"ItemId='10001' AND tablename = 'PRODUCTS'", "Casa,Lejos"},
-        {"TableName = 'Products' and [ItemId] = '10001' AND FieldDefId = '1'", "Lejos"},
-        {"FieldDefId =1", "Lejos"},
-        {"FieldDefId = 1.0", "Lejos"},
-        {"FieldDefId = 0 AND FieldDefId = 1", ""},
-        {"ItemId = ''", ""},
-        {"FieldValue = 'CASA'", "Casa"},
-        {"", "Casa,Lejos,Piso,Foto,Nadie"},
-    };
-    for (const auto& [filter, expected] : cases) {
-        EXPECT_EQ(Filtered(rows, filter), expected) << filter;
+    const int item = rows.Column(u"ItemId");
+    const int field = rows.Column(u"FieldDefId");
+    EXPECT_EQ(Filtered(rows, {{item, u"10001"}}), "Casa,Lejos,Foto");
+    EXPECT_EQ(Filtered(rows, {{item, u"10001"}, {u"tablename", u"PRODUCTS"}}), "Casa,Lejos");
+    EXPECT_EQ(Filtered(rows, {{u"TableName", u"Products"}, {item, u"10001"}, {field, u"1"}}),
+              "Lejos");
+    EXPECT_EQ(Filtered(rows, {{field, u"1"}}), "Lejos");
+    EXPECT_EQ(Filtered(rows, {{field, u"1"}, {field, u"0"}}), "");
+    EXPECT_EQ(Filtered(rows, {{item, {}}}), "");
+    EXPECT_EQ(Filtered(rows, {{u"FieldValue", u"CASA"}}), "Casa");
+    EXPECT_EQ(Filtered(rows, {}), "Casa,Lejos,Piso,Foto,Nadie");
+    for (const ColumnEquals& absent : {ColumnEquals(u"Nada", u"1"), {4, u"1"}, {-1, u"1"}}) {
+        EXPECT_EQ(ErrorOf([&] { rows.SetFilter({absent}); }), kErrNoColumn);
     }
-    for (const char* filter :
-         {"ItemId", "ItemId = ", "ItemId > 1", "ItemId = 1 OR ItemId = 2", "ItemId = 'x",
-          "ItemId = 1 AND", "ItemId = 1x", "= 1", "ItemId = ."}) {
-        EXPECT_EQ(ErrorOf([&] { rows.SetFilter(filter); }), kErrStatement) << filter;
-    }
-    EXPECT_EQ(ErrorOf([&] { rows.SetFilter("Nada = 1"); }), kErrNoColumn);
+    Recordset prices = store.Cursor("SELECT PriceAmount, 'x' AS FieldValue FROM Products");
+    EXPECT_EQ(Filtered(prices, {{u"PriceAmount", u"10.5"}}), "x");
+    EXPECT_EQ(Filtered(prices, {{u"PriceAmount", u"20"}}), "x");
 }
 
 TEST(Recordset, FilterFollowsChanges) {
     StoreFixture store;
     Recordset rows = store.Cursor(kAllTexts);
-    rows.SetFilter("ItemId = '10001'");
+    rows.SetFilter({{u"ItemId", u"10001"}});
     rows.Set(u"FieldValue", QString("O'Casey \"ñ\""));
     rows.Set(u"ItemId", QString("7"));
     EXPECT_EQ(rows.RecordCount(), 3); // until the filter is set again
@@ -235,9 +232,9 @@ TEST(Recordset, FilterFollowsChanges) {
     rows.AddNew();
     rows.Set(u"ItemId", QString("10001"));
     EXPECT_EQ(rows.AbsolutePosition(), 3);
-    EXPECT_EQ(Filtered(rows, "ItemId = 10001"), "Foto,");
-    EXPECT_EQ(Filtered(rows, "FieldValue = 'o''casey \"Ñ\"'"), "O'Casey \"ñ\"");
-    EXPECT_EQ(Filtered(rows, "FieldValue = \"O'CASEY \"\"ñ\"\"\" AND ItemId = 7"), "O'Casey \"ñ\"");
+    EXPECT_EQ(Filtered(rows, {{u"ItemId", u"10001"}}), "Foto,");
+    EXPECT_EQ(Filtered(rows, {{u"FieldValue", u"o'casey \"Ñ\""}, {u"ItemId", u"7"}}),
+              "O'Casey \"ñ\"");
     rows.Open();
     EXPECT_EQ(rows.RecordCount(), 5);
 }

@@ -15,6 +15,22 @@ namespace {
 
 class Fragments : public SiteFixture {};
 
+constexpr char kChoiceRows[] = R"(
+    def; 3; O; ; ESRojo#ENRed|ESVerde#ENGreen|ESAzul
+    def; 10; T
+    def; 11; T
+    def; 12; T
+    product; 1; A; 1; 0
+    product; 2; B; 1; 0
+    product; 3; C; 1; 0
+    product; 4; D; 1; 2
+    field; 1; 3; 2
+    field; 2; 3; 1
+    field; 3; 3; 2
+    field; 3; 0; 0
+    field; 4; 3; 0
+)";
+
 } // namespace
 
 TEST_F(Fragments, ZoneListsAndCodesFollowTheOrderOfTheZones) {
@@ -48,28 +64,13 @@ TEST_F(Fragments, ZoneLinksNeedBothTexts) {
 }
 
 TEST_F(Fragments, ChoiceListsHoldWhatProductsUseInOrderOfFirstUse) {
-    constexpr char kRows[] = R"(
-        def; 3; O; ; ESRojo#ENRed|ESVerde#ENGreen|ESAzul
-        def; 10; T
-        def; 11; T
-        def; 12; T
-        product; 1; A; 1; 0
-        product; 2; B; 1; 0
-        product; 3; C; 1; 0
-        product; 4; D; 1; 2
-        field; 1; 3; 2
-        field; 2; 3; 1
-        field; 3; 3; 2
-        field; 3; 0; 0
-        field; 4; 3; 0
-    )";
     TemplateBuilder design;
     design.AddList(kKindChoiceList, "%%C%%", "[", "%%CHOICEVALUE%%=%%CHOICE%% ", "]",
                    "FIELDDEFID=3;");
     design.AddList(kKindChoiceList, "%%NONE%%", "[", "x", "]", "FIELDDEFID=2;");
     design.AddList(kKindChoiceList, "%%NODEF%%", "[", "%%CHOICEVALUE%%=%%CHOICE%%", "]",
                    "FIELDDEFID=0;");
-    Load(design, kRows, "ES|EN");
+    Load(design, kChoiceRows, "ES|EN");
     BuildChoiceLists(Snapshot());
     QList<QByteArray> texts;
     for (const ChoiceBlock& block : ChoiceBlocks) {
@@ -81,8 +82,16 @@ TEST_F(Fragments, ChoiceListsHoldWhatProductsUseInOrderOfFirstUse) {
 }
 
 TEST_F(Fragments, ChoiceListWithoutAFieldNumberIsRefused) {
-    Load(TemplateBuilder().AddList(kKindChoiceList, "%%C%%", "", "x", ""), "");
+    Load(TemplateBuilder().AddList(kKindChoiceList, "%%C%%", "", "x", ""), kChoiceRows);
     EXPECT_THROW(BuildChoiceLists(Snapshot()), StoreError);
+    std::vector<ChoiceItem> items;
+    for (const char* id : {"", "x", "3x", "1e1", "-", ".", "+3", "3 OR 4"}) {
+        EXPECT_THROW(LoadChoiceItems(Snapshot(), id, "ES", items), StoreError) << id;
+    }
+    for (const char* id : {"3", " 03 ", "3.0", "3."}) {
+        LoadChoiceItems(Snapshot(), id, "ES", items);
+        EXPECT_EQ(items.size(), 2u) << id;
+    }
 }
 
 TEST(CategoryHash, IsTheMeanDistanceFromAAndTheLength) {

@@ -114,7 +114,7 @@ TEST_F(ProductPictures, TemplateWithoutSizesReadsNoPicture) {
 TEST_F(ProductPictures, OneRowIsRenderedForACallersOwnSection) {
     Write("Pic1000201.dat", CameraJpeg());
     Recordset& pictures = catalogue.Snapshot()[kSnapPictures];
-    pictures.SetFilter("ProductId =10002");
+    pictures.SetFilter({{u"ProductId", u"10002"}});
     TemplateSectionRecord section{.Name = "imagefind.jpg", .Params = "OPTIMALSIZE=460X345;"};
     const OutputFile file = RenderProductPicture(pictures, section);
     EXPECT_EQ(file.Name, "imagefind.jpg");
