@@ -3,15 +3,20 @@
 #include "engine/cell.h"
 
 #include <QString>
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <sqlite3.h>
 #include <unicode/ucol.h>
+#include <unicode/utf8.h>
 #include <vector>
 
 namespace {
 
 constexpr int kFunctionFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
+
+// Bytes. Each "%" of a pattern is a call within a call, which SQLite itself bounds like this.
+constexpr int kLongestPattern = 50'000;
 
 struct CollatorCloser {
     void operator()(UCollator* collator) const { ucol_close(collator); }
@@ -40,98 +45,36 @@ int CollateSpanish(void* /*context*/, int leftSize, const void* left, int rightS
                             static_cast<const char*>(right), rightSize, &status);
 }
 
-// A pattern of like, folded; the two wildcards are values beyond Unicode.
-using LikePattern = std::vector<char32_t>;
-constexpr char32_t kAnyText = 0x110000;
-constexpr char32_t kAnyCharacter = 0x110001;
+// A text with its capital letters beyond ASCII made small, at one place until the next call; those
+// of ASCII are left to sqlite3_strlike. A text of ASCII alone stays where it is.
+class FoldedText {
+public:
+    const char* Fold(sqlite3_value* value) {
+        const uchar* text = sqlite3_value_text(value);
+        const int size = sqlite3_value_bytes(value);
+        if (std::all_of(text, text + size, [](uchar byte) { return U8_IS_SINGLE(byte); })) {
+            return reinterpret_cast<const char*>(text);
+        }
+        if (buffer.size() <= size_t(size) * kGrowth) {
+            buffer.resize(size_t(size) * kGrowth + 1);
+        }
+        char* to = buffer.data();
+        int length = 0;
+        for (int at = 0; at < size;) {
+            char32_t character = 0;
+            U8_NEXT_OR_FFFD(text, at, size, character);
+            const bool ascii = character < 0x80;
+            character = ascii ? character : QChar::toCaseFolded(character);
+            U8_APPEND_UNSAFE(to, length, character);
+        }
+        to[length] = '\0';
+        return to;
+    }
 
-struct Utf8Text {
-    const uchar* next;
-    const uchar* end;
+private:
+    static constexpr int kGrowth = 3; // a byte of a broken sequence becomes U+FFFD
+    std::vector<char> buffer;
 };
-
-// Takes the next character off a text, not folded; a broken sequence is read byte by byte.
-char32_t TakeCharacter(Utf8Text& text) {
-    const uchar lead = *text.next++;
-    const int more = lead < 0xC2 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : lead < 0xF5 ? 3 : 0;
-    if (more == 0 || text.end - text.next < more) {
-        return lead;
-    }
-    char32_t character = lead & (0x3F >> more);
-    for (int byte = 0; byte < more; ++byte) {
-        if ((text.next[byte] & 0xC0) != 0x80) {
-            return lead;
-        }
-        character = character << 6 | (text.next[byte] & 0x3F);
-    }
-    text.next += more;
-    return character;
-}
-
-char32_t FoldCharacter(char32_t character) {
-    if (character < 0x80) {
-        return character >= 'A' && character <= 'Z' ? character | 0x20 : character;
-    }
-    return QChar::toCaseFolded(character);
-}
-
-LikePattern ReadPattern(Utf8Text text, char32_t escape) {
-    LikePattern pattern;
-    while (text.next < text.end) {
-        char32_t character = TakeCharacter(text);
-        if (character == escape && text.next < text.end) {
-            character = FoldCharacter(TakeCharacter(text));
-        } else if (character == '%') {
-            character = kAnyText;
-        } else if (character == '_') {
-            character = kAnyCharacter;
-        } else {
-            character = FoldCharacter(character);
-        }
-        if (character != kAnyText || pattern.empty() || pattern.back() != kAnyText) {
-            pattern.push_back(character);
-        }
-    }
-    return pattern;
-}
-
-// Only the last "%" passed has to be tried at other places, so that the time stays bounded by the
-// product of both lengths.
-bool MatchesPattern(const LikePattern& pattern, Utf8Text text) {
-    size_t at = 0;
-    size_t retryAt = 0; // pattern place behind the last "%"; 0: none passed
-    Utf8Text retryText = text;
-    while (text.next < text.end) {
-        if (at < pattern.size() && pattern[at] == kAnyText) {
-            retryAt = ++at;
-            retryText = text;
-            if (at == pattern.size()) {
-                return true;
-            }
-            continue;
-        }
-        const char32_t character = FoldCharacter(TakeCharacter(text));
-        if (at < pattern.size() && (pattern[at] == character || pattern[at] == kAnyCharacter)) {
-            ++at;
-            continue;
-        }
-        if (retryAt == 0) {
-            return false;
-        }
-        TakeCharacter(retryText);
-        text = retryText;
-        at = retryAt;
-    }
-    while (at < pattern.size() && pattern[at] == kAnyText) {
-        ++at;
-    }
-    return at == pattern.size();
-}
-
-Utf8Text TextOf(sqlite3_value* value) {
-    const uchar* text = sqlite3_value_text(value);
-    return {text, text + sqlite3_value_bytes(value)};
-}
 
 // "X like Y escape Z" calls like(Y, X, Z).
 void LikeFunction(sqlite3_context* context, int count, sqlite3_value** arguments) {
@@ -140,20 +83,15 @@ void LikeFunction(sqlite3_context* context, int count, sqlite3_value** arguments
             return; // the result stays Null
         }
     }
-    auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
-    std::unique_ptr<LikePattern> fresh;
-    if (pattern == nullptr) {
-        Utf8Text escape = count == 3 ? TextOf(arguments[2]) : Utf8Text{nullptr, nullptr};
-        const char32_t escapeCharacter =
-            escape.next < escape.end ? TakeCharacter(escape) : kAnyText;
-        fresh = std::make_unique<LikePattern>(ReadPattern(TextOf(arguments[0]), escapeCharacter));
-        pattern = fresh.get();
+    if (sqlite3_value_bytes(arguments[0]) > kLongestPattern) {
+        sqlite3_result_error_toobig(context);
+        return;
     }
-    sqlite3_result_int(context, MatchesPattern(*pattern, TextOf(arguments[1])));
-    if (fresh != nullptr && count == 2) { // the engine keeps it while the pattern is the same
-        sqlite3_set_auxdata(context, 0, fresh.release(),
-                            [](void* kept) { delete static_cast<LikePattern*>(kept); });
-    }
+    static FoldedText pattern;
+    static FoldedText text;
+    const auto escape = count == 3 ? *sqlite3_value_text(arguments[2]) : uchar(0);
+    sqlite3_result_int(
+        context, sqlite3_strlike(pattern.Fold(arguments[0]), text.Fold(arguments[1]), escape) == 0);
 }
 
 void CstrFunction(sqlite3_context* context, int /*count*/, sqlite3_value** arguments) {
