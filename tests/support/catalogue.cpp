@@ -23,13 +23,17 @@ const QHash<QString, QString> kKinds = {
     {"textdef", "MultiLangFieldDef (TableName, FieldDefId, FieldName)"},
     {"text", "MultiLangFields (TableName, ItemId, LangCode, FieldDefId, FieldValue)"}};
 
+// "\n" stands for a line end.
 QString Literal(QString value) {
+    value.replace(QStringLiteral("\\n"), QStringLiteral("\r\n"));
     return value == u"NULL" ? value : u'\'' + value.replace(u'\'', QStringLiteral("''")) + u'\'';
 }
 
+constexpr int kValuesOfProduct = 6; // without the currency
+
 // What a test needn't say: the currency, a picture's number and its file.
 void AddDerived(const QString& kind, QStringList& values) {
-    if (kind == u"product") {
+    if (kind == u"product" && values.size() == kValuesOfProduct) {
         values.append("EUR");
     } else if (kind == u"picture") {
         const QString id = QString::number(values[0].toInt() * 100 + values[1].toInt());

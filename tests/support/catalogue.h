@@ -2,9 +2,9 @@
 // opened through the program's cursors.
 //
 // One row a line: what it is, then its values, separated by ";". Blanks around a value don't count,
-// missing values and NULL are Null.
+// missing values and NULL are Null, "\n" is a line end (CR LF).
 //   def; FieldDefId; Type; Caption; Choices; DefaultValue
-//   product; ProductId; ProductRef; PriceAmount; IsNew; SaleZone; LastUpdate
+//   product; ProductId; ProductRef; PriceAmount; IsNew; SaleZone; LastUpdate; currency, else EUR
 //   field; ProductId; FieldDefId; FieldValue
 //   fields; ProductId; value of field 0; of field 1; ...
 //   picture; ProductId; ProdPictureId; OrderInForm

@@ -1,0 +1,5 @@
+<!-- Web Generada con Lumenta--> 
+
+
+
+[] [] [] [%%LIST0%%] [%%LISTSHORTDESC%%]

@@ -1,0 +1,5 @@
+<!-- Web Generada con Lumenta--> 
+
+
+
+never in a preview
