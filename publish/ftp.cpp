@@ -49,8 +49,9 @@ void TellConnectFailure() {
 }
 
 bool OpenRemoteFolder() {
-    return ExecuteFTPCommand("CD " + FTPPath) ||
-           (ExecuteFTPCommand("MKDIR " + FTPPath) && ExecuteFTPCommand("CD " + FTPPath));
+    const auto open = [](TransferClient& server) { server.OpenFolder(FTPPath); };
+    const auto make = [](TransferClient& server) { server.MakeFolder(FTPPath); };
+    return ExecuteFTPCommand(open) || (ExecuteFTPCommand(make) && ExecuteFTPCommand(open));
 }
 
 // Highest index of the data: what the progress of a file counts as, on purpose one byte less than
@@ -117,7 +118,7 @@ enum class Sent { Yes, Retry, Stop };
 Sent SendFile(const OutputFile& file, double sent, double total) {
     const QString name = TrimBlanks(file.Name);
     Stage(file.Data);
-    ineFTPSend().Execute("PUT \"" + DBpath + kStagingFile + "\" \"" + name + "\"");
+    ineFTPSend().SendFile(DBpath + kStagingFile, name);
     while (ineFTPSend().StillExecuting()) {
         ShowSending(name);
         WaitForEvents();
@@ -167,8 +168,8 @@ bool ConnectFTP() {
     return false;
 }
 
-bool ExecuteFTPCommand(const QString& command) {
-    ineFTPSend().Execute(command);
+bool ExecuteFTPCommand(const std::function<void(TransferClient&)>& start) {
+    start(ineFTPSend());
     while (ineFTPSend().StillExecuting()) {
         WaitForEvents();
     }
@@ -211,7 +212,7 @@ void CloseFTP() {
     if (ineFTPSend().StillExecuting()) {
         ineFTPSend().Cancel();
     }
-    ineFTPSend().Execute("CLOSE");
+    ineFTPSend().CloseSession();
 }
 
 TransferClient& ineFTPSend() {

@@ -5,6 +5,7 @@
 #include "site/outputs.h"
 
 #include <QString>
+#include <functional>
 #include <vector>
 
 class TransferClient;
@@ -26,8 +27,9 @@ bool SendFiles(std::vector<OutputFile>& files);
 // reason.
 bool ConnectFTP();
 
-// Runs one command to its end; true if it finished without error.
-bool ExecuteFTPCommand(const QString& command);
+// Has `start` start one command of the client and waits for its end; true if it finished without
+// error.
+bool ExecuteFTPCommand(const std::function<void(TransferClient&)>& start);
 
 // Marks what differs from the control file and sends it. False only when cancelled.
 bool SendChangedFiles(std::vector<OutputFile>& files);

@@ -64,11 +64,3 @@ bool FitsOneLine(const QString& text) {
     return std::none_of(text.begin(), text.end(),
                         [](QChar letter) { return letter < u' ' || letter == u'\x7F'; });
 }
-
-std::pair<QString, QString> PutOperands(const QString& operands) {
-    const auto between = operands.indexOf("\" \"");
-    if (!operands.startsWith(u'"') || !operands.endsWith(u'"') || between < 0) {
-        return {};
-    }
-    return {operands.mid(1, between - 1), operands.mid(between + 3).chopped(1)};
-}

@@ -5,7 +5,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <utility>
 
 // The host of an address from what the user typed: blanks around it, "ftp://" in front and "/"
 // behind don't count, an address of IP version 6 gets its brackets, a name with accents its ASCII
@@ -19,7 +18,3 @@ QByteArray NameInAddress(const QString& name);
 
 // Without control characters, which would end a line on the wire.
 bool FitsOneLine(const QString& text);
-
-// The two quoted parts of `"local file" "remote name"`; a quote inside the remote name belongs to
-// it. Empty if there aren't two.
-std::pair<QString, QString> PutOperands(const QString& operands);

@@ -17,11 +17,6 @@ namespace {
 // milliseconds.
 constexpr int kConnectPace = 50;
 
-constexpr char kPut[] = "PUT ";
-constexpr char kCd[] = "CD ";
-constexpr char kMkdir[] = "MKDIR ";
-constexpr char kClose[] = "CLOSE";
-
 // A server that ends the session says so with this reply, to whatever it was asked; libcurl takes
 // that for a time-out.
 constexpr char kServiceEnds[] = "421";
@@ -29,10 +24,6 @@ constexpr char kServiceEnds[] = "421";
 // The server took all bytes of a file and then said that it couldn't keep them, as when a disk is
 // full; libcurl takes a cut body of an HTTP response for the same.
 constexpr int kUploadNotConfirmed = CURLE_PARTIAL_FILE;
-
-QString Operand(const QString& command, const char* verb) {
-    return command.mid(qsizetype(qstrlen(verb)));
-}
 
 // "/web/" and "/web" are one folder; "/" stays.
 QString WithoutSeparatorBehind(QString path) {
@@ -68,57 +59,67 @@ void TransferClient::SetRequestTimeout(int seconds) {
     timeoutSeconds = seconds;
 }
 
-void TransferClient::Execute(const QString& command) {
-    if (executing && !closing) {
-        Fail(kErrServerReply, "Ya hay una orden en curso");
-        return;
+void TransferClient::OpenFolder(const QString& path) {
+    if (ReadyFor(Command::OpenFolder, path)) {
+        newFolder = WithoutSeparatorBehind(path);
+        request->PrepareFolder(*account, FolderInAddress(newFolder));
+        Start();
     }
-    // Nobody waits for the good-bye. Where the server has ended the session, its last words must
-    // not pass for the answer to this command.
-    if (closing || !request->Connected()) {
-        const QString lastFolder = closing || command == kClose ? QString() : folder;
-        Renew();
-        folder = lastFolder;
-    }
-    if (command == kClose && !request->Connected()) {
-        Complete();
-        return;
-    }
-    request->Reset(timeoutSeconds);
-    StartFTP(command);
 }
 
-void TransferClient::StartFTP(const QString& command) {
-    changingFolder = command.startsWith(kCd);
-    closing = command == kClose;
-    if (!FitsOneLine(command)) {
-        Fail(kErrServerReply, "Hay caracteres que no puede llevar una orden");
+void TransferClient::MakeFolder(const QString& path) {
+    if (ReadyFor(Command::Other, path)) {
+        request->PrepareCommand(*account, "MKD " + ToAnsi(WithoutSeparatorBehind(path)));
+        Start();
+    }
+}
+
+void TransferClient::SendFile(const QString& localPath, const QString& remoteName) {
+    if (!ReadyFor(Command::Other, localPath + remoteName)) {
         return;
     }
-    if (changingFolder) {
-        newFolder = WithoutSeparatorBehind(Operand(command, kCd));
-        request->PrepareFolder(*account, FolderInAddress(newFolder));
-    } else if (command.startsWith(kMkdir)) {
-        request->PrepareCommand(*account,
-                                "MKD " + ToAnsi(WithoutSeparatorBehind(Operand(command, kMkdir))));
-    } else if (command.startsWith(kPut)) {
-        if (!PreparePut(Operand(command, kPut))) {
-            Fail(kErrServerReply, "No se puede enviar el archivo");
-            return;
-        }
-    } else if (closing) {
-        request->PrepareCommand(*account, "*QUIT"); // what is answered doesn't matter
-    } else {
-        Fail(kErrServerReply, "Orden desconocida: " + command);
+    if (remoteName.isEmpty() || remoteName.contains(u'/') ||
+        !request->PrepareUpload(*account, FolderInAddress(folder) + NameInAddress(remoteName),
+                                localPath)) {
+        Fail(kErrServerReply, "No se puede enviar el archivo");
         return;
     }
     Start();
 }
 
-bool TransferClient::PreparePut(const QString& operands) {
-    const auto [local, remote] = PutOperands(operands);
-    return !remote.isEmpty() && !remote.contains(u'/') &&
-           request->PrepareUpload(*account, FolderInAddress(folder) + NameInAddress(remote), local);
+void TransferClient::CloseSession() {
+    if (ReadyFor(Command::Close, {})) {
+        request->PrepareCommand(*account, "*QUIT"); // what is answered doesn't matter
+        Start();
+    }
+}
+
+// Whether an FTP command may be prepared now; if not, its end has been reported. `texts` is what
+// it would put on the wire.
+bool TransferClient::ReadyFor(Command command, const QString& texts) {
+    const bool closing = executing && running == Command::Close;
+    if (executing && !closing) {
+        Fail(kErrServerReply, "Ya hay una orden en curso");
+        return false;
+    }
+    // Nobody waits for the good-bye. Where the server has ended the session, its last words must
+    // not pass for the answer to this command.
+    if (closing || !request->Connected()) {
+        const QString lastFolder = closing || command == Command::Close ? QString() : folder;
+        Renew();
+        folder = lastFolder;
+    }
+    if (command == Command::Close && !request->Connected()) {
+        Complete();
+        return false;
+    }
+    request->Reset(timeoutSeconds);
+    if (!FitsOneLine(texts)) {
+        Fail(kErrServerReply, "Hay caracteres que no puede llevar una orden");
+        return false;
+    }
+    running = command;
+    return true;
 }
 
 void TransferClient::Execute(const QString& url, const QString& method) {
@@ -126,7 +127,7 @@ void TransferClient::Execute(const QString& url, const QString& method) {
         Fail(kErrServerReply, "Ya hay una petición en curso");
         return;
     }
-    changingFolder = false;
+    running = Command::Other;
     request->Reset(timeoutSeconds);
     request->PrepareHttp(url.toUtf8(), method.toLatin1());
     Start();
@@ -196,14 +197,14 @@ QByteArray TransferClient::GetChunk(int size) {
 
 void TransferClient::Finish(int curlCode) {
     executing = false;
-    if (closing) {
+    if (running == Command::Close) {
         Renew();
         Report({kStateDisconnecting, kStateDisconnected, kStateReceived, kStateCompleted});
         return;
     }
     const QByteArray reply = request->words.Reply();
     if (curlCode == CURLE_OK || (curlCode == kUploadNotConfirmed && reply.startsWith('2'))) {
-        folder = changingFolder ? newFolder : folder;
+        folder = running == Command::OpenFolder ? newFolder : folder;
         Complete();
         return;
     }
@@ -245,7 +246,6 @@ void TransferClient::Report(std::initializer_list<int> states) {
 // Gives up what runs and the connection with it.
 void TransferClient::Renew() {
     executing = false;
-    closing = false;
     folder.clear();
     if (request) {
         request->Abandon();

@@ -2,8 +2,8 @@
 // polls.
 //
 // FTP (RFC 959, EPSV of RFC 2428 with PASV as the way back) is always binary. One control
-// connection serves all commands until CLOSE; once the folder is open a file costs two commands on
-// it, EPSV and STOR. Names and paths go over the wire in Windows-1252.
+// connection serves all commands until CloseSession; once the folder is open a file costs two
+// commands on it, EPSV and STOR. Names and paths go over the wire in Windows-1252.
 #pragma once
 
 #include "transfer/transferstates.h"
@@ -36,10 +36,14 @@ public:
     // For a connection, a reply, or a transfer that stands still; 60 at start.
     void SetRequestTimeout(int seconds);
 
-    // Starts an FTP command and returns at once: CD path, MKDIR path, PUT "local file" "remote
-    // name" (into the folder of the last CD), CLOSE. The first one connects. A command while
-    // another is running is refused as a failure, and so is one with control characters.
-    void Execute(const QString& command);
+    // Each starts an FTP command and returns at once; the first one connects. A command while
+    // another is running is refused as a failure, and so is one whose texts have control
+    // characters.
+    void OpenFolder(const QString& path);
+    void MakeFolder(const QString& path);
+    // Into the folder of the last OpenFolder; the name holds no "/".
+    void SendFile(const QString& localPath, const QString& remoteName);
+    void CloseSession(); // a success at once where there is none
 
     // Starts an HTTP request of `method` ("GET") and returns at once; header and body are kept for
     // GetHeader and GetChunk. Redirections are followed; an error page is an answer, no failure.
@@ -68,8 +72,9 @@ signals:
     void StateChanged(int state);
 
 private:
-    void StartFTP(const QString& command);
-    bool PreparePut(const QString& operands);
+    enum class Command { OpenFolder, Close, Other };
+
+    bool ReadyFor(Command command, const QString& texts);
     void Start();
     void StartNow();
     void Finish(int curlCode);
@@ -80,13 +85,12 @@ private:
 
     std::shared_ptr<TransferRequest> request; // the libcurl side
     std::unique_ptr<FtpAccount> account;
-    QString folder;    // of the last successful CD
-    QString newFolder; // of a CD under way
+    QString folder;    // that is open
+    QString newFolder; // that is being opened
     int timeoutSeconds = 60;
     int responseCode = 0;
     QString responseInfo;
     QElapsedTimer lastConnect; // of a session
     bool executing = false;
-    bool changingFolder = false; // the command under way is CD
-    bool closing = false;        // the command under way is CLOSE
+    Command running = Command::Other; // while executing
 };

@@ -1,5 +1,6 @@
-// What a transfer client reports: states, and the numbers and texts of failures. The numbers are
-// those of the internet clients that the program grew up with.
+// What a transfer client reports: states, and the numbers and texts of failures. The numbers of
+// failures stand in messages behind the text, so that a user can quote them and a provider's help
+// be searched for them: they are not to be changed.
 #pragma once
 
 #include <QString>

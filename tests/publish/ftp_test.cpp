@@ -255,7 +255,7 @@ TEST_F(SendFilesTest, AFileGivenUpWhileTheServerIsSilentEndsAtOnce) {
     QFile local(StagingFile());
     ASSERT_TRUE(local.open(QIODevice::WriteOnly) && local.write("text") == 4 && local.flush());
     ASSERT_TRUE(ConnectFTP());
-    ineFTPSend().Execute("PUT \"" + StagingFile() + "\" \"a\"");
+    ineFTPSend().SendFile(StagingFile(), "a");
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         if (server.Record().files.contains("/web/a")) {
