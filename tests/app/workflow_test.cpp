@@ -97,7 +97,7 @@ protected:
     // As before the first run.
     void Begin() {
         FTPControlPort = server.Port();
-        server.Misbehave({});
+        server.Behave();
         server.ForgetCommands();
         Design().Write(program.Folder(), "Default.zdt");
         SetStorage(1, {});
@@ -127,34 +127,13 @@ protected:
         once();
     }
 
+    // The run doesn't wait for the good-bye.
+    static void EndSession() {
+        EXPECT_TRUE(QTest::qWaitFor([] { return !ineFTPSend().StillExecuting(); }));
+    }
+
     static void Publish() { Click(frmMain->cmdUpdateWeb[kUpdate]); }
     static void Cancel() { Click(frmMain->cmdUpdateWeb[kCancel]); }
-
-    static std::string Steps() {
-        QString letters;
-        for (int step = 0; step < kStepCount; ++step) {
-            if (frmMain->lblSteps[step]->isVisible()) {
-                letters += Letter(frmMain->imgStep[step]);
-            }
-        }
-        return letters.toStdString();
-    }
-
-    static QChar Letter(const QLabel* image) {
-        const auto key = [](const QLabel* label) {
-            return label->pixmap(Qt::ReturnByValue).cacheKey();
-        };
-        const std::pair<const QLabel*, char> kPictures[] = {{frmMain->imgToDoStep, 't'},
-                                                            {frmMain->imgCurrentStep, 'c'},
-                                                            {frmMain->imgDoneStep, 'd'},
-                                                            {frmMain->imgFailedStep, 'f'}};
-        for (const auto& [picture, letter] : kPictures) {
-            if (key(picture) == key(image)) {
-                return QChar::fromLatin1(letter);
-            }
-        }
-        return u'?';
-    }
 
     std::string Boxes() const {
         QStringList texts;
@@ -193,7 +172,7 @@ protected:
     }
 
     void Expect(const Outcome& outcome) const {
-        EXPECT_EQ(Steps(), outcome.steps);
+        EXPECT_EQ(StepLetters(), outcome.steps);
         EXPECT_EQ(Boxes(), outcome.boxes);
         EXPECT_EQ(frmMain->lblInfo->text().section(u':', 0, 0).toStdString(), outcome.info);
         EXPECT_EQ(frmMain->prbProgress[0]->value() * 100 + frmMain->prbProgress[1]->value(),
@@ -241,7 +220,7 @@ protected:
     }
 
     MemoryDisk memory;
-    FtpServer server{{"/web"}};
+    FtpServer server;
     TestProgram program;
     BoxAnswers boxes;
     // What happens once, and when: with the second file sent, as the overall bar reaches a value,
@@ -259,7 +238,7 @@ protected:
 TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     whileSending = [] {
         ExpectBusy();
-        EXPECT_EQ(Steps(), "dddc");
+        EXPECT_EQ(StepLetters(), "dddc");
         EXPECT_TRUE(frmMain->lblInfo->text().startsWith("Enviando "));
     };
     Publish();
@@ -271,12 +250,14 @@ TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     EXPECT_TRUE(frmMain->optAllOrChanged[0]->isChecked());
     Expect({"dddd", "", "Última actualización", 910, true, false});
 
-    const QByteArray home = server.Record().files["/web/index.html"];
+    EndSession();
+    const QByteArray home = server.Record().files["index.html"];
     server.ForgetCommands();
     Remember(kLongAgo, kPending); // every page is made again, and none differs
     Click(frmMain->optAllOrChanged[1]);
     Publish();
     EXPECT_EQ(Sent(), "");
+    EndSession();
     EXPECT_EQ(server.Record().Count("QUIT"), 1);
     EXPECT_TRUE(frmMain->optAllOrChanged[1]->isChecked());
     Expect({"dddd", "", "Última actualización", 910, true, false});
@@ -285,22 +266,17 @@ TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     ClickRow(1);
     Type(frmMain->txtPriceAmount, "77");
     SelectMainTab(kPagePublish);
-    EXPECT_EQ(Steps(), "dddd");
+    EXPECT_EQ(StepLetters(), "dddd");
     ResetControlFile(); // as at another start of the program
     Publish();
     EXPECT_EQ(Sent(), "indexES.html index.html indexEN.html p10002ES.html p10002EN.html listES.js "
                       "listEN.js");
-    EXPECT_TRUE(server.Record().files["/web/index.html"] != home);
+    EXPECT_TRUE(server.Record().files["index.html"] != home);
     EXPECT_EQ(Recorded(), kSite);
 }
 
 TEST_F(Workflow, EachWayARunCanFailLeavesWhatItShould) {
     const std::string connect = "warning: Error al conectar con el servidor FTP '127.0.0.1'. ";
-    const auto reply = [this](const char* verb, const char* text) {
-        FtpFaults faults;
-        faults.replies = {{verb, text}};
-        server.Misbehave(faults);
-    };
     const struct {
         const char* name;
         std::function<void()> prepare;
@@ -312,11 +288,11 @@ TEST_F(Workflow, EachWayARunCanFailLeavesWhatItShould) {
          "",
          {"ddff", connect + "No se puede conectar con el servidor", kNotDone, 910, false, false}},
         {"wrong password",
-         [&] { reply("PASS", "530 Who?"); },
+         [&] { server.Answer("PASS", {"< 530 Who?"}); },
          "",
          {"ddff", connect + "530 Who?", kNotDone, 910, false, false}},
         {"third file refused",
-         [&] { whileSending = [&] { reply("STOR", "553 Not that name"); }; },
+         [&] { whileSending = [&] { server.Answer("STOR", {"< 553 Not that name"}); }; },
          "web.css indexES.html index.html",
          {"dddf", "information: Error al enviar el archivoindex.html. 553 Not that name (12003).",
           kWithErrors, 210, true, false}},
@@ -402,13 +378,11 @@ TEST_F(Workflow, ASiteSavedInAFolderIsShownAndAnErrorThereIsNot) {
 // The screens come back at once, the run ends with the file under way. What the user does in
 // between must neither revive the run nor take its files.
 TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
-    FtpFaults faults;
-    faults.stall = true;
-    server.Misbehave(faults);
+    server.Answer("STOR", {"< 150 Go on", "= *"});
     whenServerWaits = [this] {
-        EXPECT_EQ(Steps(), "dddc");
+        EXPECT_EQ(StepLetters(), "dddc");
         Cancel();
-        EXPECT_EQ(Steps(), "dddf");
+        EXPECT_EQ(StepLetters(), "dddf");
         ExpectIdle();
         Publish();
         ExpectIdle();
@@ -416,9 +390,9 @@ TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
         SelectMainTab(kPageCatalogue);
         ClickTool("Preview");
         SelectMainTab(kPagePublish);
-        EXPECT_EQ(Steps(), "dddf");
-        server.Misbehave({});
-        server.HangUp();
+        EXPECT_EQ(StepLetters(), "dddf");
+        server.Behave();
+        server.Play({"! reset"});
     };
     Publish();
     EXPECT_EQ(server.Record().Count("STOR"), 1);
@@ -429,17 +403,15 @@ TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
 }
 
 TEST_F(Workflow, ACancelWhileConnectingShowsBeforeTheServerHasAnswered) {
-    FtpFaults faults;
-    faults.replies = {{"USER", "331-Wait"}};
-    server.Misbehave(faults);
+    server.Answer("USER", {"< 331-Wait"});
     stallsAt = "USER";
     whenServerWaits = [this] {
-        EXPECT_EQ(Steps(), "ddct");
+        EXPECT_EQ(StepLetters(), "ddct");
         Cancel();
-        EXPECT_EQ(Steps(), "ddft");
+        EXPECT_EQ(StepLetters(), "ddft");
         ExpectIdle();
-        server.Misbehave({});
-        server.HangUp();
+        server.Behave();
+        server.Play({"! reset"});
     };
     Publish();
     EXPECT_EQ(server.Record().Count("STOR"), 0);

@@ -1,5 +1,6 @@
 #include "tests/support/files.h"
 
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -13,6 +14,43 @@ QString WriteFile(const QString& path, const QByteArray& bytes) {
 QByteArray ReadFile(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+QByteArray Escaped(const QByteArray& bytes) {
+    QByteArray text;
+    for (const char byte : bytes) {
+        const bool printable = byte >= ' ' && byte <= '~';
+        text += printable ? QByteArray(1, byte) : "\\x" + QByteArray(1, byte).toHex().toUpper();
+    }
+    return text;
+}
+
+QByteArray Unescaped(const QByteArray& text) {
+    QByteArray bytes;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool escape = text.mid(at, 2) == "\\x";
+        bytes += escape ? QByteArray::fromHex(text.mid(at + 2, 2)) : text.mid(at, 1);
+        at += escape ? 3 : 0;
+    }
+    return bytes;
+}
+
+std::vector<TextCase> ReadCases(const QString& folder) {
+    constexpr char kName[] = "### ";
+    std::vector<TextCase> cases;
+    for (const QString& file : QDir(folder).entryList({"*.txt"})) {
+        const std::size_t before = cases.size();
+        for (const QByteArray& line : ReadFile(folder + '/' + file).chopped(1).split('\n')) {
+            if (line.startsWith(kName)) {
+                cases.push_back({file + ": " + line.mid(int(strlen(kName))), {}});
+            } else if (!cases.empty()) {
+                cases.back().lines += line;
+            }
+        }
+        EXPECT_GT(cases.size(), before) << file.toStdString();
+    }
+    EXPECT_FALSE(cases.empty()) << folder.toStdString();
+    return cases;
 }
 
 DesktopTools::DesktopTools(const QStringList& names) : path(qgetenv("PATH")) {

@@ -1,22 +1,39 @@
 #include "tests/support/ftpserver.h"
 
+#include "tests/support/files.h"
+
+#include <QPointer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <sys/socket.h>
 
 namespace {
 
+const QHash<QByteArray, QList<QByteArray>> kUsualAnswers = {
+    {"*", {"< 220-Welcome", "< 220 of two lines"}},
+    {"USER", {"< 331 Password, please"}},
+    {"PASS", {"< 230 Come in"}},
+    {"PWD", {"< 257 \"/\" it is"}},
+    {"CWD", {"< 250 There"}},
+    {"MKD", {"< 257 Made"}},
+    {"TYPE", {"< 200 Fine"}},
+    {"EPSV", {"< 229 Here (|||PORT|)"}},
+    {"STOR", {"< 150 Go on", "= *", "< 226 Kept"}},
+    {"QUIT", {"< 221 Bye", "! close"}},
+};
+
 // Closes so that the peer sees a reset, not an end.
-void ResetConnection(QTcpSocket* socket) {
-    const linger now{1, 0};
-    setsockopt(static_cast<int>(socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &now,
-               sizeof now);
-    socket->abort();
+void Reset(QTcpSocket* socket) {
+    if (socket != nullptr) {
+        const linger now{1, 0};
+        setsockopt(static_cast<int>(socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &now,
+                   sizeof now);
+        socket->abort();
+    }
 }
 
-void Say(QTcpSocket* session, const QByteArray& reply) {
-    session->write(reply + "\r\n");
-    session->flush();
+QByteArray Shown(const QByteArray& bytes) {
+    return bytes.size() > 300 ? QByteArray::number(bytes.size()) + " bytes" : Escaped(bytes);
 }
 
 } // namespace
@@ -24,31 +41,30 @@ void Say(QTcpSocket* session, const QByteArray& reply) {
 class FtpSessions : public QObject {
 public:
     void Listen() {
-        control = new QTcpServer(this);
-        passive = new QTcpServer(this);
-        control->listen(QHostAddress::LocalHost);
-        connect(control, &QTcpServer::newConnection, this, &FtpSessions::Accept);
+        control.listen(QHostAddress::LocalHost);
+        connect(&control, &QTcpServer::newConnection, this, &FtpSessions::Accept);
+        connect(&passive, &QTcpServer::newConnection, this, &FtpSessions::AcceptFile);
     }
 
-    FtpFaults faults;
+    void Advance();
+
     FtpRecord record;
-    QSet<QByteArray> folders;
-    QTcpServer* control = nullptr;
+    QHash<QByteArray, QList<QByteArray>> answers;
+    QList<QByteArray> script; // what is left of it
+    bool strict = false;
+    QTcpServer control{this};
 
 private:
     void Accept();
-    void ReadCommands(QTcpSocket* session);
-    void Obey(QTcpSocket* session, const QByteArray& verb, const QByteArray& argument);
-    void OpenPassive(QTcpSocket* session, bool extended);
-    void Receive(QTcpSocket* session, const QByteArray& path);
-    void TakeConnection(QTcpSocket* session, const QByteArray& path);
-    void TakeBytes(QTcpSocket* session, QTcpSocket* transfer, const QByteArray& path);
-    void EndUpload(QTcpSocket* session, QTcpSocket* transfer, const QByteArray& path);
-    QByteArray FullPath(const QByteArray& argument) const;
+    void AcceptFile();
+    void Happen(const QByteArray& line, const QByteArray& verb);
+    void LookAtFile();
+    void Say(QByteArray reply);
 
-    QTcpServer* passive = nullptr;
-    QByteArray folder = "/"; // of the session
-    QByteArray receiving;
+    QTcpServer passive{this};
+    QPointer<QTcpSocket> session;
+    QPointer<QTcpSocket> transfer;
+    QByteArray received;
 };
 
 int FtpRecord::Count(const QByteArray& verb) const {
@@ -58,19 +74,22 @@ int FtpRecord::Count(const QByteArray& verb) const {
         }));
 }
 
-FtpServer::FtpServer(const QSet<QByteArray>& folders) : sessions(new FtpSessions) {
-    sessions->folders = folders;
-    sessions->folders.insert("/");
+FtpServer::FtpServer() : sessions(new FtpSessions) {
+    sessions->answers = kUsualAnswers;
     sessions->moveToThread(&thread);
     QObject::connect(&thread, &QThread::finished, sessions, &QObject::deleteLater);
     thread.start();
-    QMetaObject::invokeMethod(
-        sessions,
-        [this] {
-            sessions->Listen();
-            port = sessions->control->serverPort();
-        },
-        Qt::BlockingQueuedConnection);
+    Do([this] {
+        sessions->Listen();
+        port = sessions->control.serverPort();
+    });
+}
+
+FtpServer::FtpServer(const QList<QByteArray>& script) : FtpServer() {
+    Do([&] {
+        sessions->script = script;
+        sessions->strict = true;
+    });
 }
 
 FtpServer::~FtpServer() {
@@ -78,174 +97,114 @@ FtpServer::~FtpServer() {
     thread.wait();
 }
 
-void FtpServer::Misbehave(const FtpFaults& faults) {
-    QMetaObject::invokeMethod(
-        sessions, [this, &faults] { sessions->faults = faults; }, Qt::BlockingQueuedConnection);
+void FtpServer::Do(const std::function<void()>& act) const {
+    QMetaObject::invokeMethod(sessions, act, Qt::BlockingQueuedConnection);
+}
+
+void FtpServer::Answer(const QByteArray& verb, const QList<QByteArray>& lines) {
+    Do([&] { sessions->answers[verb] = lines; });
+}
+
+void FtpServer::Behave() {
+    Do([this] { sessions->answers = kUsualAnswers; });
+}
+
+void FtpServer::Play(const QList<QByteArray>& lines) {
+    Do([&] {
+        sessions->script = lines;
+        sessions->Advance();
+    });
 }
 
 FtpRecord FtpServer::Record() const {
     FtpRecord copy;
-    QMetaObject::invokeMethod(
-        sessions, [this, &copy] { copy = sessions->record; }, Qt::BlockingQueuedConnection);
+    Do([&] { copy = sessions->record; });
     return copy;
 }
 
 void FtpServer::ForgetCommands() {
-    QMetaObject::invokeMethod(
-        sessions, [this] { sessions->record.commands.clear(); }, Qt::BlockingQueuedConnection);
-}
-
-void FtpServer::HangUp(const QByteArray& lastWords) {
-    QMetaObject::invokeMethod(
-        sessions,
-        [this, &lastWords] {
-            for (QTcpSocket* session : sessions->control->findChildren<QTcpSocket*>()) {
-                if (lastWords.isEmpty()) {
-                    ResetConnection(session);
-                } else {
-                    Say(session, lastWords);
-                    session->disconnectFromHost();
-                }
-            }
-        },
-        Qt::BlockingQueuedConnection);
+    Do([this] { sessions->record.commands.clear(); });
 }
 
 void FtpSessions::Accept() {
-    QTcpSocket* session = control->nextPendingConnection();
+    session = control.nextPendingConnection();
     ++record.sessions;
-    folder = "/";
-    connect(session, &QTcpSocket::readyRead, this, [this, session] { ReadCommands(session); });
-    connect(session, &QTcpSocket::disconnected, session, &QObject::deleteLater);
-    Say(session, faults.replies.value("", "220-Welcome\r\n220 of two lines"));
+    connect(session, &QTcpSocket::readyRead, this, [this, from = session.data()] {
+        while (from->canReadLine()) {
+            const QByteArray command = from->readLine().chopped(2);
+            record.commands.push_back(command);
+            Happen("> " + Escaped(command), command.split(' ').first());
+        }
+    });
+    Happen("* connected", "*");
 }
 
-void FtpSessions::ReadCommands(QTcpSocket* session) {
-    while (session->canReadLine()) {
-        const QByteArray command = session->readLine().trimmed();
-        record.commands.push_back(command);
-        const auto blank = command.indexOf(' ');
-        const QByteArray verb = blank < 0 ? command : command.left(blank);
-        if (faults.replies.contains(verb)) {
-            Say(session, faults.replies[verb]);
+// One of the things that a script waits for.
+void FtpSessions::Happen(const QByteArray& line, const QByteArray& verb) {
+    record.transcript += line;
+    if (!strict) {
+        script = answers.value(verb, {"< 500 What?"});
+    } else if (script.value(0) != line) {
+        script = {"! close"};
+    } else {
+        script.removeFirst();
+    }
+    Advance();
+}
+
+void FtpSessions::Advance() {
+    while (!script.isEmpty() && (script[0][0] == '<' || script[0][0] == '!')) {
+        const QByteArray line = script.takeFirst();
+        record.transcript += line;
+        if (line[0] == '<') {
+            Say(Unescaped(line.mid(2)));
+        } else if (line == "! close") {
+            session->disconnectFromHost();
+        } else if (line == "! deaf") {
+            passive.close();
         } else {
-            Obey(session, verb, blank < 0 ? QByteArray() : command.mid(blank + 1));
+            Reset(transfer);
+            Reset(line == "! reset" ? session : nullptr);
         }
     }
+    LookAtFile();
 }
 
-void FtpSessions::Obey(QTcpSocket* session, const QByteArray& verb, const QByteArray& argument) {
-    if (verb == "USER") {
-        Say(session, "331 Password, please");
-    } else if (verb == "PASS") {
-        Say(session, "230 Come in");
-    } else if (verb == "PWD") {
-        Say(session, "257 \"" + folder + "\" it is");
-    } else if (verb == "CWD") {
-        const bool known = folders.contains(FullPath(argument));
-        folder = known ? FullPath(argument) : folder;
-        Say(session, known ? "250 There" : "550 No such folder");
-    } else if (verb == "MKD") {
-        const QByteArray path = FullPath(argument);
-        const QByteArray parent = path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
-        const bool possible = folders.contains(parent);
-        if (possible) {
-            folders.insert(path);
-        }
-        Say(session, possible ? "257 Made" : "550 No such folder");
-    } else if (verb == "TYPE") {
-        Say(session, "200 Fine");
-    } else if (verb == "EPSV" || verb == "PASV") {
-        OpenPassive(session, verb == "EPSV");
-    } else if (verb == "STOR") {
-        Receive(session, FullPath(argument));
-    } else if (verb == "QUIT") {
-        Say(session, "221 Bye");
-        session->disconnectFromHost();
-    } else {
-        Say(session, "500 What?");
+void FtpSessions::Say(QByteArray reply) {
+    if (reply.contains("PORT")) {
+        received.clear();
+        transfer = nullptr;
+        passive.close();
+        passive.listen(QHostAddress::LocalHost);
+        const int port = passive.serverPort();
+        const QByteArray low = QByteArray::number(port % 256);
+        reply.replace("PORT,PORT", QByteArray::number(port / 256) + ',' + low);
+        reply.replace("PORT", QByteArray::number(port));
     }
+    session->write(reply + "\r\n");
+    session->flush();
 }
 
-void FtpSessions::OpenPassive(QTcpSocket* session, bool extended) {
-    if (extended && !faults.extendedPassive) {
-        Say(session, "500 What?");
+void FtpSessions::AcceptFile() {
+    transfer = passive.nextPendingConnection();
+    passive.close();
+    connect(transfer, &QTcpSocket::readyRead, this, &FtpSessions::LookAtFile);
+    connect(transfer, &QTcpSocket::disconnected, this, &FtpSessions::LookAtFile);
+    LookAtFile();
+}
+
+// Whether the file that is waited for has come. The peer may have sent it before it is asked about.
+void FtpSessions::LookAtFile() {
+    if (!script.value(0).startsWith("= ") || transfer == nullptr) {
         return;
     }
-    passive->close();
-    passive->listen(QHostAddress::LocalHost);
-    const int port = passive->serverPort();
-    if (faults.refuseData) {
-        passive->close();
+    received += transfer->readAll();
+    const bool ended = transfer->state() == QAbstractSocket::UnconnectedState;
+    if (script[0] == "= some" ? !received.isEmpty() : ended) {
+        record.files[record.commands.last().mid(5)] = received;
+        const QByteArray line = script[0] == "= some" ? "= some" : "= " + Shown(received);
+        record.transcript += line;
+        script = strict && script[0] != line ? QList<QByteArray>{"! close"} : script.mid(1);
+        Advance();
     }
-    if (extended) {
-        Say(session, "229 Here (|||" + QByteArray::number(port) + "|)");
-    } else {
-        Say(session, "227 Here (127,0,0,1," + QByteArray::number(port / 256) + "," +
-                         QByteArray::number(port % 256) + ")");
-    }
-}
-
-void FtpSessions::Receive(QTcpSocket* session, const QByteArray& path) {
-    receiving.clear();
-    Say(session, "150 Go on");
-    disconnect(passive, &QTcpServer::newConnection, nullptr, nullptr);
-    if (passive->hasPendingConnections()) {
-        TakeConnection(session, path);
-    } else {
-        connect(passive, &QTcpServer::newConnection, session,
-                [this, session, path] { TakeConnection(session, path); });
-    }
-}
-
-// The peer may have sent everything and gone before the server looks.
-void FtpSessions::TakeConnection(QTcpSocket* session, const QByteArray& path) {
-    disconnect(passive, &QTcpServer::newConnection, nullptr, nullptr);
-    QTcpSocket* transfer = passive->nextPendingConnection();
-    passive->close();
-    connect(transfer, &QTcpSocket::readyRead, session,
-            [this, session, transfer, path] { TakeBytes(session, transfer, path); });
-    connect(transfer, &QTcpSocket::disconnected, session,
-            [this, session, transfer, path] { EndUpload(session, transfer, path); });
-    TakeBytes(session, transfer, path);
-    if (transfer->state() == QAbstractSocket::UnconnectedState) {
-        EndUpload(session, transfer, path);
-    }
-}
-
-void FtpSessions::TakeBytes(QTcpSocket* session, QTcpSocket* transfer, const QByteArray& path) {
-    receiving += transfer->readAll();
-    if (faults.resets > 0 && !receiving.isEmpty()) {
-        --faults.resets;
-        transfer->disconnect(session);
-        record.files[path] = receiving;
-        ResetConnection(transfer);
-        ResetConnection(session);
-    } else if (faults.roomFor >= 0 && receiving.size() > faults.roomFor) {
-        transfer->disconnect(session);
-        record.files[path] = receiving.left(faults.roomFor);
-        ResetConnection(transfer);
-        Say(session, "452 No room left");
-    }
-}
-
-void FtpSessions::EndUpload(QTcpSocket* session, QTcpSocket* transfer, const QByteArray& path) {
-    transfer->disconnect(session);
-    record.files[path] = receiving + transfer->readAll();
-    transfer->deleteLater();
-    if (faults.stall) {
-        return;
-    }
-    Say(session, faults.replies.value("226", "226 Got it"));
-    if (faults.closeAfterFile) {
-        session->write(faults.farewell);
-        session->disconnectFromHost();
-    }
-}
-
-QByteArray FtpSessions::FullPath(const QByteArray& argument) const {
-    if (argument.startsWith('/')) {
-        return argument;
-    }
-    return folder == "/" ? folder + argument : folder + "/" + argument;
 }

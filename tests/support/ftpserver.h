@@ -1,34 +1,29 @@
-// A small FTP server on the loopback that does what a test asks of it, also what no good server
-// does: refuse a command, cut a connection in the middle of a file, run out of room, stand still.
-// It lives in a thread of its own, as a server far away would.
+// A small FTP server on the loopback that says what a script has it say, also what no good server
+// does. It lives in a thread of its own, as a server far away would. The lines of a script:
+//
+//   * connected          waits for somebody to connect
+//   > COMMAND            waits for this command
+//   = BYTES              waits for a file with these bytes; "= some": for the first ones of a file
+//   < REPLY              is said; PORT in it opens a port for a file, PORT,PORT in two numbers
+//   ! close              ends the connection in order
+//   ! reset              cuts it, and that of a file
+//   ! cut                cuts that of a file alone
+//   ! deaf               closes the port for a file
+//
+// Bytes that are no printable ASCII are written as \xHH, a file of over 300 bytes by their number.
 #pragma once
 
 #include <QByteArray>
 #include <QHash>
 #include <QList>
 #include <QMap>
-#include <QSet>
 #include <QThread>
 
-// What the server does wrong.
-struct FtpFaults {
-    // The reply to a verb in place of the proper one, such as {"MKD", "550 No"}; to "" the
-    // greeting, to "226" the one behind an upload.
-    QHash<QByteArray, QByteArray> replies;
-
-    bool extendedPassive = true; // EPSV is known
-    int resets = 0;   // so many uploads are cut, both connections, after their first bytes
-    int roomFor = -1; // so many bytes of a file fit, then 452 on a cut data connection; -1: any
-    bool refuseData = false;     // nothing listens on the passive port
-    bool closeAfterFile = false; // the control connection is closed after each upload
-    QByteArray farewell;         // what is said before that
-    bool stall = false;          // an upload gets no final reply
-};
-
-// What it has seen and holds.
+// What the server has seen.
 struct FtpRecord {
-    QMap<QByteArray, QByteArray> files; // by full path in Windows-1252
+    QList<QByteArray> transcript;       // all that has happened, as lines of a script
     QList<QByteArray> commands;         // of all sessions in order, arguments and all
+    QMap<QByteArray, QByteArray> files; // by the name that they were sent under
     int sessions = 0;
 
     int Count(const QByteArray& verb) const;
@@ -38,21 +33,33 @@ class FtpSessions;
 
 class FtpServer {
 public:
-    // With the folders that exist besides "/".
-    explicit FtpServer(const QSet<QByteArray>& folders);
+    // One that does what it is asked, whatever the order.
+    FtpServer();
+
+    // One that follows a script to its end, and hangs up where somebody doesn't.
+    explicit FtpServer(const QList<QByteArray>& script);
+
     ~FtpServer();
     FtpServer(const FtpServer&) = delete;
     FtpServer& operator=(const FtpServer&) = delete;
 
     int Port() const { return port; }
-    void Misbehave(const FtpFaults& faults);
+
+    // From now on a verb is answered by these lines of a script in place of the usual ones.
+    void Answer(const QByteArray& verb, const QList<QByteArray>& lines);
+
+    // From now on everything is answered as usual.
+    void Behave();
+
+    // Does these lines now, such as {"< 421 Timeout", "! close"}.
+    void Play(const QList<QByteArray>& lines);
+
     FtpRecord Record() const; // as of now
     void ForgetCommands();
 
-    // Closes every control connection with these words, or resets it without any.
-    void HangUp(const QByteArray& lastWords = {});
-
 private:
+    void Do(const std::function<void()>& act) const;
+
     QThread thread;
     FtpSessions* sessions; // lives in the thread
     int port = 0;

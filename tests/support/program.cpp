@@ -181,6 +181,25 @@ void ClickTool(const QString& key) {
     }
 }
 
+std::string StepLetters() {
+    const auto key = [](const QLabel* label) {
+        return label->pixmap(Qt::ReturnByValue).cacheKey();
+    };
+    const std::pair<const QLabel*, char> kPictures[] = {{frmMain->imgToDoStep, 't'},
+                                                        {frmMain->imgCurrentStep, 'c'},
+                                                        {frmMain->imgDoneStep, 'd'},
+                                                        {frmMain->imgFailedStep, 'f'}};
+    std::string letters;
+    for (const QLabel* step : frmMain->imgStep) {
+        for (const auto& [picture, letter] : kPictures) {
+            if (!step->isHidden() && key(picture) == key(step)) {
+                letters += letter;
+            }
+        }
+    }
+    return letters;
+}
+
 QString ListText() {
     QStringList rows;
     const ProductListModel& list = *frmMain->productList;

@@ -8,6 +8,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <string>
 
 class QWidget;
 
@@ -60,6 +61,9 @@ void PressKey(QWidget* box, int key);
 void Click(QWidget* control);
 void ClickRow(int row);
 void ClickHeader(int column);
+
+// A letter for each step that the page of the publish lists: t to do, c current, d done, f failed.
+std::string StepLetters();
 
 // Presses a button of the tool bar by its key.
 void ClickTool(const QString& key);

@@ -21,35 +21,18 @@
 
 namespace {
 
-struct Case {
-    QString name;
+QMap<QString, QByteArray> PartsOf(const TextCase& tested) {
     QMap<QString, QByteArray> parts;
-};
-
-QByteArray Unescaped(const QByteArray& text) {
-    QByteArray bytes;
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        const bool escape = text.mid(at, 2) == "\\x";
-        bytes += escape ? QByteArray::fromHex(text.mid(at + 2, 2)) : text.mid(at, 1);
-        at += escape ? 3 : 0;
-    }
-    return bytes;
-}
-
-std::vector<Case> CasesOf(const QString& file) {
-    std::vector<Case> cases;
     QString part;
-    for (const QByteArray& line : ReadFile(file).chopped(1).split('\n')) {
-        if (line.startsWith("### ")) {
-            cases.push_back({QString::fromUtf8(line), {}});
-        } else if (line.startsWith(">> ")) {
+    for (const QByteArray& line : tested.lines) {
+        if (line.startsWith(">> ")) {
             part = line.mid(3);
-            cases.back().parts[part] = "";
+            parts[part] = "";
         } else {
-            cases.back().parts[part] += Unescaped(line) + '\n';
+            parts[part] += Unescaped(line) + '\n';
         }
     }
-    return cases;
+    return parts;
 }
 
 // The sound design with what a case changes in it.
@@ -104,8 +87,9 @@ QString Loaded(QByteArray bytes) {
     return lines.join('\n') + '\n';
 }
 
-void Check(const Case& tested) {
-    QMap<QString, QByteArray> changes = tested.parts;
+void Check(const TextCase& tested) {
+    SCOPED_TRACE(tested.name.toStdString());
+    QMap<QString, QByteArray> changes = PartsOf(tested);
     const QByteArray said = changes.take("says");
     const QByteArray loaded = changes.take("loads");
     const DesignFolder design(changes);
@@ -125,15 +109,8 @@ void Check(const Case& tested) {
 } // namespace
 
 TEST(PackDesign, EveryDesignIsToldOfAndLoadedAsItsCaseSays) {
-    const QStringList files = QDir(DESIGNS).entryList({"*.txt"});
-    ASSERT_FALSE(files.isEmpty());
-    for (const QString& file : files) {
-        const std::vector<Case> cases = CasesOf(QString(DESIGNS "/") + file);
-        ASSERT_FALSE(cases.empty()) << file.toStdString();
-        for (const Case& tested : cases) {
-            SCOPED_TRACE((file + ": " + tested.name).toStdString());
-            Check(tested);
-        }
+    for (const TextCase& tested : ReadCases(DESIGNS)) {
+        Check(tested);
     }
 }
 
