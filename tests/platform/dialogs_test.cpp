@@ -50,56 +50,32 @@ void PostFailure(FailingObject& object) {
 
 } // namespace
 
-TEST(Dialogs, BoxShowsWhatItIsGiven) {
+TEST(Dialogs, BoxShowsWhatItIsGivenAsPlainText) {
     WhenShown<QMessageBox>([](QMessageBox* box) {
         EXPECT_EQ(box->text(), "Línea <b>1</b>\nLínea 2");
         EXPECT_EQ(box->textFormat(), Qt::PlainText);
         EXPECT_EQ(box->windowTitle(), "Lumenta");
-        EXPECT_EQ(box->icon(), QMessageBox::Warning);
-        ASSERT_EQ(box->buttons().size(), 1);
-        EXPECT_EQ(box->buttons()[0]->text(), "&Aceptar");
+        EXPECT_EQ(box->buttons().value(0)->text(), "&Aceptar");
         QTest::keyClick(box, Qt::Key_Escape);
     });
-    EXPECT_EQ(MsgBox("Línea <b>1</b>\nLínea 2", BoxIcon::Warning, BoxButtons::Ok, BoxAnswer::Ok,
-                     "Lumenta"),
-              BoxAnswer::Ok);
+    MsgBox("Línea <b>1</b>\nLínea 2", BoxIcon::Warning, "Lumenta");
 }
 
-TEST(Dialogs, QuestionIsAnsweredByButtonKeyDefaultOrClosing) {
-    struct Case {
-        BoxAnswer defaultAnswer;
-        std::function<void(QMessageBox*)> act;
-        BoxAnswer answer;
-    };
-    const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        return [=](QMessageBox* box) { QTest::keyClick(box, key, modifiers); };
-    };
-    const Case cases[] = {
-        {BoxAnswer::Yes, press(Qt::Key_Return), BoxAnswer::Yes},
-        {BoxAnswer::No, press(Qt::Key_Return), BoxAnswer::No},
-        {BoxAnswer::Yes, press(Qt::Key_Escape), BoxAnswer::No},
-        {BoxAnswer::Yes, [](QMessageBox* box) { box->close(); }, BoxAnswer::No},
-        {BoxAnswer::No, [](QMessageBox* box) { box->button(QMessageBox::Yes)->click(); },
-         BoxAnswer::Yes},
-        {BoxAnswer::Yes, press(Qt::Key_N, Qt::AltModifier), BoxAnswer::No},
-    };
-    for (const Case& item : cases) {
-        WhenShown<QMessageBox>(item.act);
-        EXPECT_EQ(MsgBox("¿Seguro?", BoxIcon::Question, BoxButtons::YesNo, item.defaultAnswer, "?"),
-                  item.answer)
-            << &item - cases;
+TEST(Dialogs, QuestionIsAnsweredByItsDefaultAndEscapeIsNo) {
+    for (const BoxAnswer standard : {BoxAnswer::Yes, BoxAnswer::No}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            WhenShown<QMessageBox>([key](QMessageBox* box) { QTest::keyClick(box, key); });
+            EXPECT_EQ(MsgBox("¿Seguro?", BoxIcon::Question, BoxButtons::YesNo, standard, "?"),
+                      key == Qt::Key_Return ? standard : BoxAnswer::No);
+        }
     }
 }
 
-TEST(Dialogs, ChoicesComeBackAsPathsOrEmpty) {
+TEST(Dialogs, PicturesAreChosenByTheirKindInTheFolderOfTheLastOne) {
     LoadToolkitTexts();
     const QTemporaryDir home;
     QDir(home.path()).mkdir("fotos");
     const QString picture = WriteFile(home.filePath("fotos/CASA.JPG"), {});
-    for (const QString& folder : {home.filePath("fotos"), QString("/"), QString()}) {
-        const PathChoice choice(folder);
-        EXPECT_EQ(BrowseFolder(nullptr, "Carpeta"), folder);
-    }
     WhenShown<QFileDialog>([&](QFileDialog* dialog) {
         EXPECT_EQ(dialog->windowTitle(), "Foto");
         EXPECT_EQ(dialog->directory().path(), home.filePath("fotos"));
