@@ -29,7 +29,7 @@ void ExpectTranslated(const QString& tagged) {
 } // namespace
 
 TEST(DeliveredCatalogues, NumberTheirFieldsDenselyWithInternalOnesLast) {
-    ASSERT_GE(DeliveredCatalogues().size(), 3);
+    ASSERT_FALSE(DeliveredCatalogues().isEmpty());
     for (const QString& name : DeliveredCatalogues()) {
         SCOPED_TRACE(name.toStdString());
         const DeliveredStore store(name);

@@ -1,68 +1,26 @@
 #include "site/transforms.h"
 
+#include "tests/support/files.h"
+
 #include <gtest/gtest.h>
 
+// The first "=" behind the key counts, and what isn't closed loses its last character.
 TEST(Transforms, GetParamTakesTheFirstPlainOccurrence) {
-    const struct {
-        const char* text;
-        const char* key;
-        const char* value;
-    } kCases[] = {
-        {"START=10;MIDDLE=20;END=5;", "MIDDLE", "20"},
-        {"LEGEND=1;END=5;", "END", "1"},
-        {"A=END;END=5;", "END", "5"}, // the first "=" behind the hit is the next item's
-        {"end=5;", "END", ""},
-        {"END=  5 0  ;", "END", "5 0"},
-        {"END=5\t;", "END", "5\t"},
-        {"END=123", "END", "12"}, // unclosed: loses its last character
-        {"END=123   ", "END", "123"},
-        {"END=", "END", ""},
-        {"END=5", "END", ""},
-        {"END", "END", ""},
-        {"END=;X=1;", "END", ""},
-        {"", "", ""},
-    };
-    for (const auto& row : kCases) {
-        EXPECT_EQ(GetParam(row.text, row.key), row.value) << row.text;
+    for (const QStringList& row : ReadTable(TABLES, "parameters")) {
+        EXPECT_EQ(GetParam(row[0], row[1]), row[2]) << row[0].toStdString();
     }
 }
 
 TEST(Transforms, ReplaceTagExpandsTheScriptSpellingFirst) {
-    const struct {
-        const char* text;
-        const char* tag;
-        const char* value;
-        const char* result;
-    } kCases[] = {
-        {"a %%X%%.DOCWRITE b %%X%%", "%%X%%", "it's", "a document.writeln('it\\'s');\r\n b it's"},
-        {"%%X%%.DOCWRITE", "%%X%%", "1\r\n\n\r\n",
-         "document.writeln('1');\r\ndocument.writeln('\n');\r\ndocument.writeln('');\r\n"},
-        {"%%X%%.DOCWRITE", "%%X%%", "", "document.writeln('');\r\n"},
-        {"%%X%%.DOC", "  %%X%% ", "v", "v.DOC"},
-        {"a b", "   ", "v", "a b"},
-        {"%%x%%", "%%X%%", "v", "%%x%%"},
-        {"aaa", "aa", "a", "aa"}, // what arises is not replaced again
-        {"%%X%%", "%%X%%", "%%X%%", "%%X%%"},
-    };
-    for (const auto& row : kCases) {
-        EXPECT_EQ(ReplaceTag(row.text, row.tag, row.value), row.result) << row.text;
+    for (const QStringList& row : ReadTable(TABLES, "tags")) {
+        EXPECT_EQ(ReplaceTag(row[0].toUtf8(), row[1].toUtf8(), row[2].toUtf8()), row[3].toUtf8())
+            << row[0].toStdString();
     }
 }
 
 TEST(Transforms, MakeFileSuffixKeepsWhatItDoesNotKnow) {
-    const struct {
-        QString text;
-        QString suffix;
-    } kCases[] = {
-        {"Ático 2.º", "-atico-2-º"},
-        {"", ""},
-        {" ", "--"},
-        {"A/B\\C'D.E", "-a-b-c-d-e"},
-        {"ÀÈÉÍÌÏÒÓÚÙÜÑ", "-aeeiiioouuun"},
-        {"Ça, ¿y? & más", "-ça,-¿y?-&-mas"},
-    };
-    for (const auto& row : kCases) {
-        EXPECT_EQ(MakeFileSuffix(row.text), row.suffix) << row.text.toStdString();
+    for (const QStringList& row : ReadTable(TABLES, "suffixes of files")) {
+        EXPECT_EQ(MakeFileSuffix(row[0]), row[1]) << row[0].toStdString();
     }
 }
 

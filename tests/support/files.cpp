@@ -4,6 +4,24 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
+namespace {
+
+std::vector<TextCase> CasesOf(const QString& file) {
+    constexpr char kName[] = "### ";
+    std::vector<TextCase> cases;
+    for (const QByteArray& line : ReadFile(file).chopped(1).split('\n')) {
+        if (line.startsWith(kName)) {
+            cases.push_back({QString::fromUtf8(line.mid(int(strlen(kName)))), {}});
+        } else if (!cases.empty()) {
+            cases.back().lines += line;
+        }
+    }
+    EXPECT_FALSE(cases.empty()) << file.toStdString();
+    return cases;
+}
+
+} // namespace
+
 QString WriteFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
@@ -36,21 +54,29 @@ QByteArray Unescaped(const QByteArray& text) {
 }
 
 std::vector<TextCase> ReadCases(const QString& folder) {
-    constexpr char kName[] = "### ";
     std::vector<TextCase> cases;
     for (const QString& file : QDir(folder).entryList({"*.txt"})) {
-        const std::size_t before = cases.size();
-        for (const QByteArray& line : ReadFile(folder + '/' + file).chopped(1).split('\n')) {
-            if (line.startsWith(kName)) {
-                cases.push_back({file + ": " + line.mid(int(strlen(kName))), {}});
-            } else if (!cases.empty()) {
-                cases.back().lines += line;
-            }
+        for (TextCase& found : CasesOf(folder + '/' + file)) {
+            found.name = file + ": " + found.name;
+            cases.push_back(std::move(found));
         }
-        EXPECT_GT(cases.size(), before) << file.toStdString();
     }
     EXPECT_FALSE(cases.empty()) << folder.toStdString();
     return cases;
+}
+
+std::vector<QStringList> ReadTable(const QString& file, const QString& name) {
+    std::vector<QStringList> rows;
+    for (const TextCase& table : CasesOf(file)) {
+        for (const QByteArray& line : table.name == name ? table.lines : QList<QByteArray>()) {
+            QStringList& columns = rows.emplace_back();
+            for (const QByteArray& column : line.split('|')) {
+                columns += QString::fromUtf8(Unescaped(column.trimmed()));
+            }
+        }
+    }
+    EXPECT_FALSE(rows.empty()) << name.toStdString();
+    return rows;
 }
 
 DesktopTools::DesktopTools(const QStringList& names) : path(qgetenv("PATH")) {

@@ -25,6 +25,10 @@ struct TextCase {
 // where a file has none or there is no file.
 std::vector<TextCase> ReadCases(const QString& folder);
 
+// The lines of one case in a file, each as its columns between "|". Blanks around a column don't
+// count, bytes are written as above. The test fails where there are none.
+std::vector<QStringList> ReadTable(const QString& file, const QString& name);
+
 // While it lives, the desktop's tools of these names ("xdg-open", "lp") are stand-ins: each notes
 // its argument, keeps a copy of a file that it names, and ends with the code in EXIT_CODE.
 class DesktopTools {

@@ -1,5 +1,6 @@
 #include "tests/support/realservers.h"
 
+#include "tests/support/files.h"
 #include "text/ansi.h"
 
 #include <QFile>
@@ -41,30 +42,6 @@ constexpr rlim_t kFileBound = 300000;
 constexpr char kPasswordHash[] =
     "$6$casa$CnriW34UMT38Vh402F2o65cm0/Q9zFls/spVDqFjYLh9vwGtf4U2Mr66Lx"
     "ais51boSlfsfAPo/AbB0cylwYty1";
-
-constexpr char kWelcome[] = "Welcome\nin two lines\n";
-
-constexpr char kPyftpdlibScript[] = R"(import logging, sys
-from pyftpdlib.authorizers import DummyAuthorizer
-from pyftpdlib.handlers import FTPHandler
-from pyftpdlib.servers import FTPServer
-host, port, last, extended, home, log, user, password = sys.argv[1:]
-class Handler(FTPHandler):
-    def decode(self, bytes):
-        return bytes.decode("cp1252")
-authorizer = DummyAuthorizer()
-authorizer.add_user(user, password, home, perm="elradfmw")
-authorizer.add_anonymous(home, perm="elradfmw")
-Handler.authorizer = authorizer
-Handler.auth_failed_timeout = 0
-Handler.passive_ports = range(int(port) + 1, int(last))
-if extended == "0":
-    Handler.masquerade_address = "10.0.0.9"
-    del Handler.proto_cmds["EPSV"]
-logging.basicConfig(filename=log, level=logging.DEBUG, format="%(message)s",
-                    encoding="utf8")
-FTPServer((host, int(port)), Handler).serve_forever()
-)";
 
 bool IsRoot() {
     return geteuid() == 0;
@@ -243,7 +220,7 @@ QStringList RealServer::PreparePyftpdlib(int port, const ServerChoices& choices)
     return {"/usr/bin/python3",
             "-W",
             "ignore",
-            Write("server.py", kPyftpdlibScript),
+            Write("server.py", ReadFile(SETTINGS_FOLDER "/pyftpdlib.py")),
             choices.host,
             QString::number(port),
             QString::number(port + kPassivePorts),
@@ -254,50 +231,49 @@ QStringList RealServer::PreparePyftpdlib(int port, const ServerChoices& choices)
             kServerPassword};
 }
 
+// A settings file with the server's place in it and `more` behind.
+QString RealServer::WriteSettings(const QString& name, int port, const ServerChoices& choices,
+                                  const QByteArray& more) {
+    const passwd* user = getpwuid(UserOfServers());
+    const std::pair<const char*, QByteArray> kPlaces[] = {
+        {"@HOST@", choices.host},
+        {"@PORT@", QByteArray::number(port)},
+        {"@FIRST@", QByteArray::number(port + 1)},
+        {"@LAST@", QByteArray::number(port + kPassivePorts)},
+        {"@USER@", user->pw_name},
+        {"@GROUP@", getgrgid(user->pw_gid)->gr_name},
+        {"@FOLDER@", folder.path().toUtf8()},
+        {"@WELCOME@", Write("welcome", ReadFile(SETTINGS_FOLDER "/welcome")).toUtf8()},
+    };
+    QByteArray settings = ReadFile(SETTINGS_FOLDER "/" + name);
+    for (const auto& [mark, value] : kPlaces) {
+        settings.replace(mark, value);
+    }
+    return Write("server.conf", settings + more);
+}
+
 QStringList RealServer::PrepareProFTPD(int port, const ServerChoices& choices) {
     const passwd* user = getpwuid(UserOfServers());
-    const group* users = getgrgid(user->pw_gid);
     const QByteArray ids =
         QByteArray::number(user->pw_uid) + ":" + QByteArray::number(user->pw_gid);
     const QByteArray rest =
         QByteArray(":") + kPasswordHash + ":" + ids + "::" + OnDisk({}) + ":/bin/sh\n";
-    const QString accounts = Write("accounts", QByteArray(kServerUser) + rest + "anonymous" + rest);
-    const QByteArray settings =
-        "ServerType standalone\nSocketBindTight on\nUseReverseDNS off\nDelayTable none\n"
-        "ControlsEngine off\nScoreboardFile none\nTransferLog none\nWtmpLog off\n"
-        "RequireValidShell off\nAllowOverwrite on\nAuthOrder mod_auth_file.c\n"
-        "LogFormat command \"%r\"\n"
-        "DefaultAddress " +
-        choices.host + "\nPort " + QByteArray::number(port) + "\nPassivePorts " +
-        QByteArray::number(port + 1) + " " + QByteArray::number(port + kPassivePorts) + "\nUser " +
-        user->pw_name + "\nGroup " + users->gr_name + "\nPidFile " +
-        folder.filePath("pid").toUtf8() + "\nAuthUserFile " + accounts.toUtf8() + "\nSystemLog " +
-        folder.filePath("system.log").toUtf8() + "\nExtendedLog " +
-        folder.filePath("commands.log").toUtf8() + " ALL command\n" + "DisplayConnect " +
-        Write("welcome", kWelcome).toUtf8() + "\n" + (choices.littleRoom ? kSmallFiles : "") +
-        (choices.extendedPassive ? ""
-                                 : "MasqueradeAddress 10.0.0.9\n<Limit EPSV>\nDenyAll\n</Limit>\n");
-    return {CopyProgram("proftpd"), "-n", "-c", Write("server.conf", settings)};
+    Write("accounts", QByteArray(kServerUser) + rest + "anonymous" + rest);
+    const QByteArray more = choices.littleRoom ? kSmallFiles : "";
+    const QByteArray passive = "MasqueradeAddress 10.0.0.9\n<Limit EPSV>\nDenyAll\n</Limit>\n";
+    return {CopyProgram("proftpd"), "-n", "-c",
+            WriteSettings("proftpd.conf", port, choices,
+                          more + (choices.extendedPassive ? "" : passive))};
 }
 
 QStringList RealServer::PrepareVsftpd(int port, const ServerChoices& choices) {
-    const bool newAddress = choices.host.contains(':');
-    const QByteArray settings =
-        QByteArray(newAddress ? "listen=NO\nlisten_ipv6=YES\nlisten_address6="
-                              : "listen=YES\nlisten_address=") +
-        choices.host + "\nlisten_port=" + QByteArray::number(port) +
-        "\npasv_min_port=" + QByteArray::number(port + 1) +
-        "\npasv_max_port=" + QByteArray::number(port + kPassivePorts) +
-        "\nanon_root=" + OnDisk({}) +
-        "\nvsftpd_log_file=" + folder.filePath("commands.log").toUtf8() +
-        "\nbanner_file=" + Write("welcome", kWelcome).toUtf8() +
-        "\nbackground=NO\nrun_as_launching_user=YES\nseccomp_sandbox=NO\nsession_support=NO\n"
-        "ftp_username=nobody\nlocal_enable=NO\nanonymous_enable=YES\nwrite_enable=YES\n"
-        "anon_upload_enable=YES\nanon_mkdir_write_enable=YES\nanon_other_write_enable=YES\n"
-        "anon_umask=022\ndelay_failed_login=0\nxferlog_enable=YES\nxferlog_std_format=NO\n"
-        "log_ftp_protocol=YES\n" +
-        (choices.extendedPassive ? "" : "cmds_denied=EPSV\npasv_address=10.0.0.9\n");
-    return {CopyProgram("vsftpd"), Write("server.conf", settings)};
+    const QByteArray listen = choices.host.contains(':')
+                                  ? "listen=NO\nlisten_ipv6=YES\nlisten_address6="
+                                  : "listen=YES\nlisten_address=";
+    const QByteArray passive = "cmds_denied=EPSV\npasv_address=10.0.0.9\n";
+    return {CopyProgram("vsftpd"),
+            WriteSettings("vsftpd.conf", port, choices,
+                          listen + choices.host + "\n" + (choices.extendedPassive ? "" : passive))};
 }
 
 QStringList RealServer::PreparePureFTPd(int port, const ServerChoices& choices) {

@@ -56,6 +56,8 @@ private:
     QStringList PrepareProFTPD(int port, const ServerChoices& choices);
     QStringList PrepareVsftpd(int port, const ServerChoices& choices);
     QStringList PreparePureFTPd(int port, const ServerChoices& choices);
+    QString WriteSettings(const QString& name, int port, const ServerChoices& choices,
+                          const QByteArray& more);
     QString CopyProgram(const QString& name);
     QString Write(const char* name, const QByteArray& content);
     QByteArray OnDisk(const QString& path) const;
