@@ -1,7 +1,7 @@
 #include "tests/support/files.h"
+#include "tests/support/userhome.h"
 
 #include <QDir>
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
@@ -14,11 +14,9 @@ protected:
 
     // The exit code; what the tool said is kept.
     int Run(const QStringList& files) {
-        QProcess process;
-        process.start(MAKESTORE, QStringList{store} + files);
-        EXPECT_TRUE(process.waitForFinished());
-        said = QString::fromUtf8(process.readAllStandardError());
-        return process.exitCode();
+        const ToolRun run = RunTool(MAKESTORE, QStringList{store} + files);
+        said = run.complaint;
+        return run.code;
     }
 
     QTemporaryDir folder;

@@ -3,59 +3,46 @@
 #include "publish/generate.h"
 #include "tests/designs/sitechecks.h"
 #include "tests/support/catalogue.h"
+#include "tests/support/userhome.h"
 #include "text/ansi.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr int kPatience = 120'000; // milliseconds for one site
-
 QStringList FoldersOf(const QString& path) {
     return QDir(path).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-void RunTool(const QString& program, const QStringList& arguments,
-             const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished(kPatience)) << program.toStdString();
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+void Make(const QString& program, const QStringList& arguments,
+          const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
+    const ToolRun run = RunTool(program, arguments, environment);
+    EXPECT_EQ(run.code, 0) << run.complaint.toStdString();
 }
 
-// A user of whom nothing else on the machine knows, with a catalogue of his own.
+// A user with a copy of a sample's catalogue.
 class Publisher {
 public:
     explicit Publisher(const QString& sample) {
-        QDir(home.path()).mkdir("data");
         for (const QFileInfo& file : QDir(sample).entryInfoList(QDir::Files | QDir::Hidden)) {
-            QFile::copy(file.filePath(), home.filePath("data/" + file.fileName()));
+            QFile::copy(file.filePath(), home.Path("data/" + file.fileName()));
         }
     }
 
     // The site in a fresh folder.
     QDir Publish(const QString& design, const QString& languages) {
-        const QString site = home.filePath(QString("site%1/").arg(++sites));
-        QDir(home.path()).mkpath("Lumenta");
-        QFile settings(home.filePath("Lumenta/settings.ini"));
-        EXPECT_TRUE(settings.open(QIODevice::WriteOnly));
-        settings.write(QString("[Params]\nDBpath=%1\nStoragePath=%2\nUserLangs=%3\n"
-                               "DefaultLang=%4\n[Templates]\nTemplPath=%5\n")
-                           .arg(home.filePath("data/"), site, languages, languages.left(2), design)
-                           .toUtf8());
-        settings.close();
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_CONFIG_HOME", home.path());
-        environment.insert("XDG_RUNTIME_DIR", home.path());
-        RunTool(PUBLISH, {}, environment);
+        const QString site = home.Path(QString("site%1/").arg(++sites));
+        home.Settings(QString("StoragePath=%1\nUserLangs=%2\nDefaultLang=%3\n[Templates]\n"
+                              "TemplPath=%4\n")
+                          .arg(site, languages, languages.left(2), design)
+                          .toUtf8());
+        Make(PUBLISH, {}, home.Environment());
         return QDir(site);
     }
 
 private:
-    QTemporaryDir home;
+    UserHome home;
     int sites = 0;
 };
 
@@ -68,7 +55,7 @@ QStringList LanguagesFor(const QString& sample) {
 // A design of ours, packed.
 QString Pack(const QString& design, const QTemporaryDir& folder) {
     const QString file = folder.filePath(design + ".zdt");
-    RunTool(PACKDESIGN, {DESIGNS_FOLDER "/" + design, file});
+    Make(PACKDESIGN, {DESIGNS_FOLDER "/" + design, file});
     return file;
 }
 
@@ -84,8 +71,7 @@ void ExpectWhole(const QDir& site) {
 TEST(Designs, EveryDesignMakesAWholeSiteOfEverySample) {
     const QStringList samples = FoldersOf(SAMPLES_FOLDER);
     const QStringList designs = FoldersOf(DESIGNS_FOLDER);
-    ASSERT_GE(samples.size(), 2);
-    ASSERT_GE(designs.size(), 2);
+    ASSERT_FALSE(samples.isEmpty() || designs.isEmpty());
     QTemporaryDir packed;
     for (const QString& sample : samples) {
         const QString folder = SAMPLES_FOLDER "/" + sample;

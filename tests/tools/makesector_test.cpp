@@ -1,14 +1,12 @@
 // The maker of flavour files, run as a flavour's author runs it, and read back by the program.
 #include "core/flavour.h"
 #include "tests/support/files.h"
+#include "tests/support/userhome.h"
 
 #include <QFile>
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr int kPatience = 10000; // milliseconds
 
 class MakeSector : public testing::Test {
 protected:
@@ -18,11 +16,9 @@ protected:
 
     // Exit code; what the tool complains of goes to `complaint`.
     int Run(const QString& lines) {
-        QProcess tool;
-        tool.start(MAKESECTOR, {lines, Target()});
-        EXPECT_TRUE(tool.waitForFinished(kPatience));
-        complaint = QString::fromUtf8(tool.readAllStandardError());
-        return tool.exitCode();
+        const ToolRun run = RunTool(MAKESECTOR, {lines, Target()});
+        complaint = run.complaint;
+        return run.code;
     }
 
     QTemporaryDir home;

@@ -9,13 +9,13 @@
 // A byte that is no text is written as \xHH.
 #include "site/template.h"
 #include "tests/support/files.h"
+#include "tests/support/userhome.h"
 #include "text/ansi.h"
 #include "tools/designfile.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -123,24 +123,17 @@ TEST(PackDesign, MoreSectionsThanTheTableHoldsAreRefused) {
 }
 
 TEST(PackDesign, ProgramWritesTheFileOnlyWithoutErrors) {
-    const auto run = [](const QStringList& arguments) {
-        QProcess process;
-        process.start(PACKDESIGN, arguments);
-        EXPECT_TRUE(process.waitForFinished());
-        return std::make_pair(process.exitCode(),
-                              QString::fromUtf8(process.readAllStandardError()));
-    };
     const DesignFolder sound({});
     const QString output = sound.Path() + "/out.zdt";
-    EXPECT_EQ(run({"--scramble", sound.Path(), output}), std::make_pair(0, QString()));
+    EXPECT_EQ(RunTool(PACKDESIGN, {"--scramble", sound.Path(), output}).code, 0);
     EXPECT_TRUE(Loaded(ReadFile(output)).startsWith("Prueba\n"));
     EXPECT_EQ(TemplateHeader.Scrambled, 1);
     QFile::remove(output);
     const DesignFolder broken({{"design.ini +", "basura\n"}});
-    EXPECT_EQ(run({broken.Path(), output}),
-              std::make_pair(1, broken.Path() +
-                                    "/design.ini:12: error: se esperaba «clave = valor» "
-                                    "o «[section]»\n"));
+    const ToolRun refused = RunTool(PACKDESIGN, {broken.Path(), output});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_EQ(refused.complaint,
+              broken.Path() + "/design.ini:12: error: se esperaba «clave = valor» o «[section]»\n");
     EXPECT_FALSE(QFile::exists(output));
-    EXPECT_EQ(run({}).first, 2);
+    EXPECT_EQ(RunTool(PACKDESIGN, {}).code, 2);
 }

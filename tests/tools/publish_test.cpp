@@ -4,14 +4,12 @@
 #include "tests/support/files.h"
 #include "tests/support/templatebuilder.h"
 #include "tests/support/testpictures.h"
+#include "tests/support/userhome.h"
 
 #include <QDir>
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr int kPatience = 20000; // milliseconds
 
 constexpr char kProduct[] =
     "INSERT INTO Products (ProductId, ProductRef, PriceAmount, IsNew, SaleZone, LastUpdate) VALUES"
@@ -31,55 +29,29 @@ TemplateBuilder Design() {
 class Publish : public testing::Test {
 protected:
     void SetUp() override {
-        for (const char* folder : {"config/Lumenta", "run", "data"}) {
-            QDir(home.path()).mkpath(folder);
-        }
-        QFile::setPermissions(home.filePath("run"),
-                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        const QString product = Write("product.sql", kProduct);
-        ASSERT_EQ(
-            QProcess::execute(MAKESTORE, {Data() + "Zandora.zdb", DELIVERY "schema.sql",
-                                          DELIVERY "languages.sql", DELIVERY "texts.sql", product}),
-            0);
-        Write("data/Pic1000101.dat", MakeJpeg(FourFields({80, 60})));
+        home.MakeCatalogue("data", kProduct);
+        home.Write("data/Pic1000101.dat", MakeJpeg(FourFields({80, 60})));
         Design().Write(Data(), "Default.zdt");
         Settings({});
     }
 
-    QString Data() const { return home.path() + "/data/"; }
+    QString Data() const { return home.Path("data/"); }
 
-    QString Write(const QString& name, const QByteArray& bytes) const {
-        return WriteFile(home.filePath(name), bytes);
-    }
-
-    QByteArray Read(const QString& name) const { return ReadFile(home.filePath(name)); }
-
-    // Lines of the section Params beside the catalogue's folder, a later one of a key counts less.
-    void Settings(const QByteArray& lines) const {
-        Write("config/Lumenta/settings.ini",
-              "[Params]\n" + lines + "DBpath=" + Data().toUtf8() + "\nTemplateLangs=ES\n");
-    }
+    void Settings(const QByteArray& lines) const { home.Settings("TemplateLangs=ES\n" + lines); }
 
     // Exit code; what it says goes to `said` and `complaint`.
     int Run(const QStringList& options = {}, const QString& program = PUBLISH) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_CONFIG_HOME", home.filePath("config"));
-        environment.insert("XDG_RUNTIME_DIR", home.filePath("run"));
-        QProcess tool;
-        tool.setProcessEnvironment(environment);
-        tool.start(program, options);
-        EXPECT_TRUE(tool.waitForFinished(kPatience));
-        EXPECT_EQ(tool.exitStatus(), QProcess::NormalExit);
-        said = QString::fromUtf8(tool.readAllStandardOutput());
-        complaint = QString::fromUtf8(tool.readAllStandardError());
-        return tool.exitCode();
+        const ToolRun run = RunTool(program, options, home.Environment());
+        said = run.said;
+        complaint = run.complaint;
+        return run.code;
     }
 
     // Every file below the user's folders but the running program's lock.
     QStringList Files() const {
         QStringList files;
         for (const char* folder : {"config/Lumenta", "data", "data/temp"}) {
-            const QDir place(home.filePath(folder));
+            const QDir place(home.Path(folder));
             for (const QString& name : place.entryList(QDir::Files | QDir::Hidden)) {
                 files += QString(folder) + '/' + name;
             }
@@ -87,7 +59,7 @@ protected:
         return files;
     }
 
-    QTemporaryDir home;
+    UserHome home;
     QString said;
     QString complaint;
 };
@@ -115,7 +87,7 @@ const Refusal kRefusals[] = {
      [](const QString& data) {
          QFile::remove(data + "Zandora.zdb");
          WriteFile(data + "other.sql", "CREATE TABLE ProductFieldDef (FieldDefId INTEGER);");
-         QProcess::execute(MAKESTORE, {data + "Zandora.zdb", data + "other.sql"});
+         RunTool(MAKESTORE, {data + "Zandora.zdb", data + "other.sql"});
      },
      "",
      {"No se ha podido abrir la Base de Datos."}},
@@ -151,12 +123,12 @@ INSTANTIATE_TEST_SUITE_P(All, PublishRefusal, testing::ValuesIn(kRefusals),
 TEST_P(PublishRefusal, FailsWithAClearLineAndKeepsSettings) {
     Settings(GetParam().settings);
     GetParam().spoil(Data());
-    const QByteArray before = Read("config/Lumenta/settings.ini");
+    const QByteArray before = home.SettingsText();
     EXPECT_EQ(Run(), 1) << said.toStdString();
     for (const QString& line : GetParam().complaints) {
         EXPECT_TRUE(complaint.contains(line)) << complaint.toStdString();
     }
-    EXPECT_EQ(Read("config/Lumenta/settings.ini"), before);
+    EXPECT_EQ(home.SettingsText(), before);
     EXPECT_FALSE(Files().contains("data/temp/index.html"));
 }
 
@@ -171,28 +143,28 @@ TEST_F(Publish, WritesTheSiteTellsItsStepsAndKeepsTheMoment) {
                     "3. Guardar los Ficheros en Carpeta Local: hecho\n"
                     "La web se ha publicado: " +
                         Data() + "temp/index.html\n");
-    EXPECT_EQ(Read("data/temp/p10001.htm"), "<p>TAZ-01</p>");
-    EXPECT_EQ(QImage(home.filePath("data/temp/1000101.jpg")).size(), QSize(40, 30));
-    EXPECT_TRUE(Read("config/Lumenta/settings.ini").contains("\nLastWebUpdate="));
+    EXPECT_EQ(home.Read("data/temp/p10001.htm"), "<p>TAZ-01</p>");
+    EXPECT_EQ(QImage(home.Path("data/temp/1000101.jpg")).size(), QSize(40, 30));
+    EXPECT_TRUE(home.SettingsText().contains("\nLastWebUpdate="));
 }
 
 TEST_F(Publish, OddSettingsCountAsTheirDefaults) {
     Settings("StorageMethod=dos\nMultiUser=quizás\n[UI]\nUIPassword=secreto\n[Templates]\n"
-             "TemplColorSet=azul\nTemplMaxEmph=\n[Params]\n");
+             "TemplColorSet=azul\nTemplMaxEmph=\n");
     EXPECT_EQ(Run(), 0) << complaint.toStdString();
     EXPECT_TRUE(Files().contains("data/temp/index.html"));
-    EXPECT_TRUE(Read("config/Lumenta/settings.ini").contains("\nStorageMethod=0\n"));
-    EXPECT_TRUE(Read("config/Lumenta/settings.ini").contains("UIPassword=secreto\n"));
+    EXPECT_TRUE(home.SettingsText().contains("\nStorageMethod=0\n"));
+    EXPECT_TRUE(home.SettingsText().contains("UIPassword=secreto\n"));
 }
 
 // The defaults point beside the program, where a test may not publish.
 TEST_F(Publish, ADamagedSettingsFileIsLeftAloneWhenTheRunFails) {
     const QByteArray damaged("\0\1\2", 3);
-    Write("config/Lumenta/settings.ini", damaged);
-    QFile::copy(PUBLISH, home.filePath("publish"));
-    EXPECT_EQ(Run({}, home.filePath("publish")), 1);
+    home.Write("config/Lumenta/settings.ini", damaged);
+    QFile::copy(PUBLISH, home.Path("publish"));
+    EXPECT_EQ(Run({}, home.Path("publish")), 1);
     EXPECT_TRUE(complaint.contains("/Data/Zandora.zdb existe")) << complaint.toStdString();
-    EXPECT_EQ(Read("config/Lumenta/settings.ini"), damaged);
+    EXPECT_EQ(home.SettingsText(), damaged);
 }
 
 TEST_F(Publish, OptionsAndAnOpenProgramAreRefusedBeforeAnythingIsTouched) {
@@ -202,7 +174,7 @@ TEST_F(Publish, OptionsAndAnOpenProgramAreRefusedBeforeAnythingIsTouched) {
         EXPECT_TRUE(complaint.contains("no admite opciones")) << complaint.toStdString();
     }
     const QByteArray usual = qgetenv("XDG_RUNTIME_DIR");
-    qputenv("XDG_RUNTIME_DIR", home.filePath("run").toUtf8());
+    qputenv("XDG_RUNTIME_DIR", home.Path("run").toUtf8());
     ASSERT_TRUE(ClaimInstance());
     EXPECT_EQ(Run(), 1);
     ReleaseInstance();
