@@ -6,12 +6,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -48,6 +48,10 @@ QByteArray SystemName(const QString& path) {
     return QFile::encodeName(path);
 }
 
+std::filesystem::path SystemPath(const QString& path) {
+    return SystemName(path).toStdString();
+}
+
 // False with errno if there is nothing at `path`.
 bool ReadStatus(const QString& path, struct stat& status) {
     return ::stat(SystemName(path).constData(), &status) == 0;
@@ -78,7 +82,9 @@ void SyncFolderOf(const QString& path) {
     }
 }
 
-// A file being written beside the one that it will replace. Without Finish it vanishes.
+// A file being written beside the one that it will replace. Without Finish it vanishes. Not
+// QSaveFile: that one takes a failed synchronisation for success, leaves the folder's entry to the
+// next power failure, and refuses a file that may not be written where its folder may.
 class Replacement {
 public:
     Replacement(const QString& finalPath, mode_t mode)
@@ -123,6 +129,8 @@ private:
     Descriptor file;
 };
 
+// Not std::filesystem::copy_file, which neither replaces as a whole nor synchronises, and gives the
+// copy of a private file its source's permissions.
 bool CopyBytes(int from, int to) {
     std::vector<char> buffer(kCopyBytes);
     for (;;) {
@@ -164,11 +172,10 @@ int CopyFile(const QString& source, const QString& target, bool withStatus) {
 }
 
 int MoveFile(const QString& source, const QString& target) {
-    if (std::rename(SystemName(source).constData(), SystemName(target).constData()) == 0) {
-        return 0;
-    }
-    if (errno != EXDEV) {
-        return errno;
+    std::error_code renaming;
+    std::filesystem::rename(SystemPath(source), SystemPath(target), renaming);
+    if (renaming != std::errc::cross_device_link) {
+        return renaming.value();
     }
     const int failure = CopyFile(source, target, true);
     if (failure != 0) {
@@ -180,16 +187,6 @@ int MoveFile(const QString& source, const QString& target) {
 bool IsPattern(const QString& path) {
     const QString name = QFileInfo(path).fileName();
     return (name.contains(u'*') || name.contains(u'?')) && !QFileInfo::exists(path);
-}
-
-// "*.*" is every file, with or without a dot in its name.
-QRegularExpression PatternExpression(const QString& pattern) {
-    QString expression =
-        QRegularExpression::escape(pattern == u"*.*" ? u"*" : QStringView(pattern));
-    expression.replace("\\*", ".*").replace("\\?", ".");
-    return QRegularExpression(QRegularExpression::anchoredPattern(expression),
-                              QRegularExpression::CaseInsensitiveOption |
-                                  QRegularExpression::DotMatchesEverythingOption);
 }
 
 // Takes a source's files into `files`; an error number if it has none.
@@ -204,9 +201,12 @@ int ExpandSource(const QString& source, QStringList& files) {
     }
     const QFileInfo info(source);
     const QString folder = WithSeparator(info.path());
-    const QStringList names = QDir(folder)
-                                  .entryList(QDir::Files | QDir::Hidden, QDir::Name)
-                                  .filter(PatternExpression(info.fileName()));
+    QString pattern = info.fileName();
+    // To the toolkit a "[" begins a set of characters, and "*.*" demands a dot.
+    pattern =
+        pattern == u"*.*" ? QStringLiteral("*") : pattern.replace(u'[', QStringLiteral("[[]"));
+    const QStringList names =
+        QDir(folder).entryList({pattern}, QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString& name : names) {
         files += folder + name;
     }
@@ -218,17 +218,11 @@ bool Confirmed(const QString& question, const QString& path) {
                   BoxAnswer::No, QStringLiteral("Confirmar")) == BoxAnswer::Yes;
 }
 
-bool IsSameFile(const QString& left, const QString& right) {
-    struct stat leftStatus {};
-    struct stat rightStatus {};
-    return ReadStatus(left, leftStatus) && ReadStatus(right, rightStatus) &&
-           leftStatus.st_dev == rightStatus.st_dev && leftStatus.st_ino == rightStatus.st_ino;
-}
-
 // One file of a Move, Copy or Rename.
 int TransferFile(FileOp operation, const QString& source, const QString& target,
                  bool askConfirmation) {
-    if (IsSameFile(source, target)) {
+    std::error_code unreadable;
+    if (std::filesystem::equivalent(SystemPath(source), SystemPath(target), unreadable)) {
         return 0;
     }
     if (QFileInfo(target).isDir()) {

@@ -23,7 +23,8 @@ constexpr QStringView kDamagedSuffix = u".dañado-";
 constexpr std::array<std::pair<char16_t, char16_t>, 5> kEscapes{
     {{u'\\', u'\\'}, {u'"', u'"'}, {u'\n', u'n'}, {u'\r', u'r'}, {u'\0', u'0'}}};
 
-// One line of the file; a line that is no entry is kept as it stands.
+// One line of the file; a line that is no entry is kept as it stands. Not QSettings: it takes ","
+// ";" and "\" of a value written by hand for its own marks, and drops comments when it writes.
 struct Line {
     QString text;
     QString section; // under which it stands; empty above the first one
