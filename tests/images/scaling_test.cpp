@@ -3,6 +3,7 @@
 #include "images/scaling.h"
 #include "tests/support/testpictures.h"
 
+#include <QtEndian>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -43,6 +44,17 @@ double MeanAt(const QImage& image, QSize size, int column, int row) {
         }
     }
     return sum / (right - left) / (bottom - top);
+}
+
+// Second bytes of the markers in front of a JPEG's data, the last one 0xDA.
+std::vector<int> SegmentsOf(const QByteArray& jpeg) {
+    std::vector<int> markers;
+    qsizetype at = 2;
+    while (at + 4 <= jpeg.size() && (markers.empty() || markers.back() != 0xDA)) {
+        markers.push_back(uchar(jpeg[at + 1]));
+        at += 2 + qFromBigEndian<quint16>(jpeg.constData() + at + 2);
+    }
+    return markers;
 }
 
 } // namespace

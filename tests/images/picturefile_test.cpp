@@ -2,7 +2,10 @@
 #include "tests/support/files.h"
 #include "tests/support/testpictures.h"
 
+#include <QBuffer>
+#include <QDir>
 #include <QFileInfo>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 namespace {
@@ -13,9 +16,49 @@ DecodedPicture Read(const QByteArray& bytes, QSize neededSize = {}) {
     return ReadPictureBytes(bytes, "foto", neededSize);
 }
 
+QByteArray Picture(const QString& name) {
+    return ReadFile(PICTURES "/" + name);
+}
+
+// The reason that a picture is refused for; "" where it is taken.
+QString ReadingFailure(const QByteArray& bytes) {
+    try {
+        Read(bytes);
+        return {};
+    } catch (const PictureError& error) {
+        return error.Text();
+    }
+}
+
+// Content of a camera's segment in either byte order: orientation, then by way of two more folders
+// the mark of Adobe RGB ("R03") or sRGB ("R98").
+QByteArray CameraBlock(int orientation, bool bigEndian = false, bool adobeRgb = false) {
+    constexpr int kOrientationAt = 24;
+    QByteArray block =
+        QByteArray("Exif\0\0", 6) +
+        QByteArray::fromHex(bigEndian ? "4d4d002a00000008 0002 0112000300000001 00000000"
+                                        "8769000400000001 00000026 00000000"
+                                        "0001 a005000400000001 00000038 00000000"
+                                        "0001 0001000200000004 52393800 00000000"
+                                      : "49492a0008000000 0200 1201030001000000 00000000"
+                                        "6987040001000000 26000000 00000000"
+                                        "0100 05a0040001000000 38000000 00000000"
+                                        "0100 0100020004000000 52393800 00000000");
+    const auto value = quint16(orientation);
+    bigEndian ? qToBigEndian(value, block.data() + kOrientationAt)
+              : qToLittleEndian(value, block.data() + kOrientationAt);
+    return adobeRgb ? block.replace("R98", "R03") : block;
+}
+
+// The JPEG with a camera's segment in front.
+QByteArray WithBlock(QByteArray jpeg, const QByteArray& block) {
+    QByteArray head("\xFF\xE1  ");
+    qToBigEndian(quint16(block.size() + 2), head.data() + 2);
+    return jpeg.insert(2, head + block);
+}
+
 QByteArray WithCamera(int orientation, bool bigEndian = false, bool adobeRgb = false) {
-    return WithSegment(MakeJpeg(FourFields(kSmall)), 0xE1,
-                       ExifBlock(orientation, bigEndian, adobeRgb));
+    return WithBlock(Picture("fields.jpg"), CameraBlock(orientation, bigEndian, adobeRgb));
 }
 
 // Offset of the n-th scan (from 0) of a JPEG.
@@ -27,11 +70,84 @@ qsizetype ScanStart(const QByteArray& jpeg, int n) {
     return at;
 }
 
+QRgb FirstPixel(const QString& name) {
+    return Read(Picture(name)).image.pixel(0, 0);
+}
+
 QByteArray WithSize(QByteArray jpeg, const QByteArray& heightAndWidth) {
     return jpeg.replace(jpeg.indexOf("\xFF\xC0") + 5, 4, heightAndWidth);
 }
 
 } // namespace
+
+TEST(PictureFile, EveryKindOfPictureGivesItsColors) {
+    const QStringList names = QDir(PICTURES).entryList({"fields*"});
+    EXPECT_EQ(names.size(), 24);
+    for (const QString& name : names) {
+        EXPECT_EQ(CornerFields(Read(Picture(name)).image), "ABCD") << name.toStdString();
+    }
+    const QImage woven = Read(Picture("fields-interlaced.gif")).image;
+    EXPECT_EQ(CornerFields(woven.copy(1, 1, 14, 14)), "ABCD");
+}
+
+TEST(BitmapReader, WhatAGifLeavesOutIsWhite) {
+    const QImage placed = Read(Picture("placed-transparent.gif")).image;
+    EXPECT_EQ(placed.size(), QSize(5, 4));
+    EXPECT_EQ(placed.pixel(0, 0), 0xFFFFFFFF) << "outside the frame";
+    EXPECT_EQ(placed.pixel(2, 1), kFieldA);
+    EXPECT_EQ(placed.pixel(3, 2), 0xFFFFFFFF) << "transparent";
+}
+
+TEST(BitmapReader, PixelsThatAFilePassesOverHaveTheFirstColor) {
+    const QByteArray bytes = Picture("passed-over.bmp"); // all but three of its pixels
+    QByteArray(20'000, '\x5A').clear();                  // what memory held before must not show
+    const QImage image = Read(bytes).image;
+    EXPECT_LE(ColorDistance(image.pixel(0, 99), kFieldC), 0);
+    for (int y = 0; y < 99; ++y) {
+        ASSERT_EQ(image.pixel(y, y), kFieldA) << y;
+    }
+}
+
+TEST(BitmapReader, PicturesAreShrunkToTwiceTheNeededSize) {
+    QByteArray bmp;
+    QBuffer buffer(&bmp);
+    FourFields(QSize(80, 60)).save(&buffer, "BMP");
+    const DecodedPicture picture = Read(bmp, QSize(10, 10));
+    EXPECT_EQ(picture.image.size(), QSize(20, 20));
+    EXPECT_EQ(picture.naturalSize, QSize(80, 60));
+    EXPECT_EQ(CornerFields(picture.image), "ABCD");
+}
+
+TEST(BitmapReader, DamagedOrAbsurdFilesAreRefused) {
+    const QByteArray gif = Picture("fields.gif");
+    const QByteArray bmp = Picture("fields-24.bmp");
+    const auto changed = [](QByteArray bytes, int at, const char* hex) {
+        const QByteArray by = QByteArray::fromHex(hex);
+        return bytes.replace(at, by.size(), by);
+    };
+    const struct {
+        const char* what;
+        QByteArray bytes;
+        const char* reason;
+    } kCases[] = {
+        {"GIF of its mark alone", gif.left(6), "dañado"},
+        {"GIF without a frame", gif.left(13) + ";", "dañado"},
+        {"GIF cut within its frame", gif.left(gif.size() - 6), "dañado"},
+        {"GIF of an absurd size", changed(gif, 6, "FFFFFFFF"), "demasiado"},
+        {"GIF of a size beyond its bytes", changed(gif, 6, "00200020"), "dañado"},
+        {"GIF of no size", changed(gif, 6, "00000000"), "dañado"},
+        {"BMP of its mark alone", bmp.left(2), "dañado"},
+        {"BMP cut within its pixels", bmp.chopped(5), "dañado"},
+        {"packed BMP cut within its runs", Picture("fields-8-packed.bmp").chopped(4), "dañado"},
+        {"BMP of an absurd size", changed(bmp, 18, "80841E00 80841E00"), "demasiado"},
+        {"BMP of no size", changed(bmp, 18, "00000000"), "dañado"},
+        {"BMP with an unknown header", changed(bmp, 14, "0D000000"), "dañado"},
+    };
+    for (const auto& c : kCases) {
+        const QString failure = ReadingFailure(c.bytes);
+        EXPECT_TRUE(failure.contains(c.reason)) << c.what << ": " << failure.toStdString();
+    }
+}
 
 TEST(JpegReader, PhotographsAreTurnedUprightHoweverTheCameraWasHeld) {
     constexpr const char* kUpright[] = {"ABCD", "BADC", "DCBA", "CDAB",
@@ -51,69 +167,41 @@ TEST(JpegReader, PhotographsAreTurnedUprightHoweverTheCameraWasHeld) {
 }
 
 TEST(JpegReader, BrokenCameraBlockCountsAsAbsent) {
-    const QByteArray whole = ExifBlock(6);
+    const QByteArray whole = CameraBlock(6);
     for (qsizetype length = 0; length < whole.size(); ++length) {
-        const QByteArray jpeg = WithSegment(MakeJpeg(FourFields(kSmall)), 0xE1, whole.left(length));
+        const QByteArray jpeg = WithBlock(Picture("fields.jpg"), whole.left(length));
         const QByteArray corners = CornerFields(Read(jpeg).image);
         EXPECT_TRUE(corners == "ABCD" || (corners == "CADB" && length > 20)) << length;
     }
 }
 
-TEST(JpegReader, EveryColorModelGivesTheSameColors) {
-    const QImage fields = FourFields(kSmall);
-    for (const J_COLOR_SPACE model : {JCS_YCbCr, JCS_RGB, JCS_CMYK, JCS_YCCK}) {
-        for (const bool progressive : {false, true}) {
-            for (const bool adobeMarker : {false, true}) {
-                if (model == JCS_YCCK && !adobeMarker) {
-                    continue; // only the marker tells it from CMYK
-                }
-                JpegRecipe recipe;
-                recipe.model = model;
-                recipe.progressive = progressive;
-                recipe.adobeMarker = adobeMarker;
-                EXPECT_EQ(CornerFields(Read(MakeJpeg(fields, recipe)).image), "ABCD")
-                    << int(model) << progressive << adobeMarker;
-            }
-        }
-    }
-    JpegRecipe grey;
-    grey.model = JCS_GRAYSCALE;
-    const QRgb corner = Read(MakeJpeg(fields, grey)).image.pixel(0, 0);
+TEST(JpegReader, GreyPicturesStayGrey) {
     const int level = qGray(kFieldA);
-    EXPECT_LE(ColorDistance(corner, qRgb(level, level, level)), 2);
+    EXPECT_LE(ColorDistance(FirstPixel("grey.jpg"), qRgb(level, level, level)), 2);
+    const QRgb linear = FirstPixel("grey-linear-profile.jpg");
+    EXPECT_GT(qRed(linear), level + 40);
+    EXPECT_EQ(qRed(linear), qBlue(linear));
 }
 
 TEST(JpegReader, EmbeddedProfilesBringColorsToSrgb) {
-    const QImage fields = FourFields(kSmall);
-    const auto corner = [&](const JpegRecipe& recipe) {
-        return Read(MakeJpeg(fields, recipe)).image.pixel(0, 0);
-    };
-    const QRgb plain = corner({});
-    EXPECT_EQ(corner({.profile = SrgbProfile()}), plain);
-    EXPECT_EQ(corner({.profile = LinearGreyProfile()}), plain) << "profile of another model";
-    EXPECT_EQ(corner({.profile = AdobeRgbProfile().left(200)}), plain) << "damaged profile";
-
-    const QRgb adobe = corner({.profile = AdobeRgbProfile()});
+    const QRgb plain = FirstPixel("fields.jpg");
+    for (const char* unchanged :
+         {"fields-srgb-profile.jpg", "fields-profile-of-grey.jpg", "fields-cut-profile.jpg"}) {
+        EXPECT_EQ(FirstPixel(unchanged), plain) << unchanged;
+    }
+    const QRgb adobe = FirstPixel("adobe-rgb-profile.jpg");
     EXPECT_GT(qRed(adobe), qRed(plain) + 15); // the same numbers are more saturated there
     EXPECT_LT(qGreen(adobe), qGreen(plain));
     EXPECT_EQ(Read(WithCamera(1, false, true)).image.pixel(0, 0), adobe) << "marked by the camera";
-
-    const QRgb grey = corner({.model = JCS_GRAYSCALE});
-    const QRgb linear = corner({.model = JCS_GRAYSCALE, .profile = LinearGreyProfile()});
-    EXPECT_GT(qRed(linear), qRed(grey) + 40);
-    EXPECT_EQ(qRed(linear), qBlue(linear));
-
-    for (const bool inverted : {false, true}) {
-        JpegRecipe cmyk{.model = JCS_CMYK, .adobeMarker = inverted};
-        cmyk.profile = SwappedCmykProfile();
-        const QRgb swapped = corner(cmyk);
-        EXPECT_GT(qGreen(swapped), qRed(swapped) + 40) << inverted;
+    for (const char* inks : {"inks-swapped-profile.jpg", "inks-swapped-profile-inverted.jpg"}) {
+        const QRgb swapped = FirstPixel(inks); // cyan and magenta exchanged
+        EXPECT_GT(qGreen(swapped), qRed(swapped) + 40) << inks;
     }
 }
 
 TEST(JpegReader, DecodesAtTheSmallestFastScaleThatCoversTheNeededSizeTwice) {
     const QByteArray jpeg = MakeJpeg(FourFields(QSize(1600, 801)));
-    const QByteArray turned = WithSegment(jpeg, 0xE1, ExifBlock(6));
+    const QByteArray turned = WithBlock(jpeg, CameraBlock(6));
     const struct {
         const QByteArray& jpeg;
         QSize needed;
@@ -133,13 +221,13 @@ TEST(JpegReader, DecodesAtTheSmallestFastScaleThatCoversTheNeededSizeTwice) {
 }
 
 TEST(JpegReader, SmallFaultsAreForgiven) {
-    const QByteArray jpeg = MakeJpeg(FourFields(kSmall));
+    const QByteArray jpeg = Picture("fields.jpg");
     EXPECT_EQ(ReadingFailure(jpeg.chopped(2)), "") << "no end marker";
     EXPECT_EQ(ReadingFailure(jpeg + "behind the picture"), "");
     QByteArray stray = jpeg;
     stray.insert(jpeg.size() - 2, QByteArray(9, '\x11'));
     EXPECT_EQ(ReadingFailure(stray), "") << "stray bytes before the end marker";
-    const QByteArray progressive = MakeJpeg(FourFields(kSmall), {.progressive = true});
+    const QByteArray progressive = Picture("fields-progressive.jpg");
     EXPECT_EQ(ReadingFailure(progressive.chopped(2)), "") << "progressive without an end marker";
 }
 
@@ -148,7 +236,7 @@ TEST(JpegReader, DamagedOrAbsurdFilesAreRefusedByName) {
     std::generate_n(reinterpret_cast<QRgb*>(noise.bits()), 256 * 256,
                     [seed = 1u]() mutable { return seed = seed * 1664525 + 1013904223; });
     const QByteArray jpeg = MakeJpeg(noise);
-    const QByteArray progressive = MakeJpeg(noise, {.progressive = true});
+    const QByteArray progressive = MakeJpeg(noise, true);
     const QByteArray scan = progressive.mid(ScanStart(progressive, 2),
                                             ScanStart(progressive, 3) - ScanStart(progressive, 2));
     QByteArray endless = progressive.chopped(2);
