@@ -11,8 +11,8 @@
 void CopyTemplateFiles();
 
 // The home page, kind 1, as "index" + language + ".html", and that of DefaultLang as "index.html"
-// too. No home page where the section is the table's second one (index 1): existing designs have
-// been made around it.
+// too. No home page where the section is the table's second one (index 1): the
+// index.html that such a design copies itself would be overwritten.
 void CopyIndexPages();
 
 // The first section of kind 11, once for each language.

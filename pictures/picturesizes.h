@@ -18,8 +18,9 @@ struct SizeDemand {
 std::optional<SizeDemand> ReadExactSize(const TemplateSectionRecord& section); // RESIZE
 std::optional<SizeDemand> ReadFitSize(const TemplateSectionRecord& section);   // OPTIMALSIZE
 
-// What a picture of `source` pixels becomes inside `box`, as the previews and the sites have always
-// computed it; `margin` is taken off the box. Sides are at least 1.
+// What a picture of `source` pixels becomes inside `box`; `margin` is taken off the box. Sides are
+// at least 1. Rounded otherwise, pictures that nobody has touched would all be sent to a site
+// again.
 QSize FitPictureInto(QSize source, QSize box, int margin);
 
 // Size of the output that a picture of `source` pixels gives.

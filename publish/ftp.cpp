@@ -73,7 +73,7 @@ double MarkChangedFiles(std::vector<OutputFile>& files) {
 }
 
 // The staging file is neither emptied nor removed first: what a stopped publish left behind the new
-// content goes along, as it always has.
+// content goes along. The manual tells the user to delete that file then.
 void Stage(const QByteArray& data) {
     QFile staging(DBpath + kStagingFile);
     if (!staging.open(QIODevice::ReadWrite) || (stagedIsSent && !staging.resize(data.size())) ||

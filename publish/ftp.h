@@ -19,8 +19,8 @@ extern QString FTPLastError; // the server's text of the last error reported
 extern int FTPRequestTimeout; // 20 at start
 
 // The entry point of a publish. False when the connection failed or the run was cancelled. A failed
-// transfer counts as success, since the workflow has always recorded it so: the step list alone
-// shows it.
+// transfer counts as success, so that one file that the server refuses doesn't have the whole site
+// sent again: the step list alone shows it.
 bool SendFiles(std::vector<OutputFile>& files);
 
 // Logs in and opens FTPPath, making its last level if it is missing. False after a box with the

@@ -121,7 +121,8 @@ void RenameSection(int section, const QString& name);
 int FindSection(int kind, const SectionTable& table = TemplateSections);
 
 // The LAST section of the kind, or kNoSection, in a list of one; after a hit the next table slot is
-// skipped. Odd, and on purpose: existing designs rely on which section is found.
+// skipped. Odd, and on purpose: with another one found, sites of designs that hold several would
+// show other blocks.
 std::vector<int> FindSections(int kind);
 
 // Sections of the kind in table order, all of them.

@@ -15,7 +15,7 @@ QString TrimBlanks(const QString& text);
 QByteArray TrimBlanks(const QByteArray& text);
 
 // The bytes of a finished text: from the first NUL on everything is zero; an empty text is a single
-// zero byte. Existing sites carry files of exactly this form.
+// zero byte. Without it every file of a site would differ from what was last sent of it.
 QByteArray TextToBytes(const QByteArray& text);
 
 // Value of `key` in a run of KEY=value; items, trimmed of blanks. The first occurrence of `key`
