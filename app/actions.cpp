@@ -14,17 +14,11 @@
 #include "editor/search.h"
 #include "forms/mainform.h"
 #include "platform/dialogs.h"
+#include "store/openrecord.h"
 #include "store/products.h"
 #include "store/store.h"
 
 namespace {
-
-constexpr int kMessageDelete = 3;
-constexpr int kMessageDeleteTitle = 4;
-
-constexpr int kSheetShow = 0; // actions of ShowSheet
-constexpr int kSheetPrint = 1;
-constexpr int kSheetMail = 2;
 
 // The busy pointer while a command runs, whatever ends it.
 class BusyPointer {
@@ -77,7 +71,7 @@ void DeleteCurrentProduct() {
     if (!HoldProduct()) {
         return;
     }
-    AddDeletedItem("P", frmMain->txtProductId->text());
+    AddDeletedItem(DeletedItem::Product, frmMain->txtProductId->text());
     const bool featured = frmMain->cboIsNew->currentIndex() == kStatusFeatured;
     try {
         DeleteProduct();
@@ -86,13 +80,13 @@ void DeleteCurrentProduct() {
         throw;
     }
     if (featured) {
-        --FeaturedCount;
+        CountFeaturedDeleted();
     }
     RemoveFromList();
 }
 
 void ToggleSearch() {
-    QAction* search = frmMain->Button("Search");
+    QAction* search = frmMain->Button(kButtonSearch);
     try {
         SaveListedProduct();
     } catch (const StoreError&) {
@@ -108,39 +102,39 @@ void ToggleSearch() {
     frmMain->fraNoProductsFound->setVisible(ListRowCount() == 0);
 }
 
-void ShowProductSheet(const QString& kind) {
+void ShowProductSheet(SheetKind kind) {
     SaveCurrentProduct();
-    ShowSheet(kind + "|" + frmMain->txtProductId->text(), kSheetShow);
+    ShowSheet(kind, frmMain->txtProductId->text(), SheetAction::Show);
 }
 
 // The command alone. Save, Print, Mail and Import have none: every other step saves already.
 void RunCommand(const QString& key) {
-    if (key == u"Add") {
+    if (key == kButtonAdd) {
         AddNewProduct();
-    } else if (key == u"Del") {
+    } else if (key == kButtonDel) {
         DeleteCurrentProduct();
-    } else if (key == u"Preview") {
-        ShowProductSheet("PRODUCT");
-    } else if (key == u"Layout") {
-        ShowProductSheet("LAYOUT");
-    } else if (key == u"Search") {
+    } else if (key == kButtonPreview) {
+        ShowProductSheet(SheetKind::Product);
+    } else if (key == kButtonLayout) {
+        ShowProductSheet(SheetKind::Layout);
+    } else if (key == kButtonSearch) {
         ToggleSearch();
-    } else if (key == u"LoanCalc") {
+    } else if (key == kButtonLoanCalc) {
         ShowCalculator();
     }
 }
 
 void MoveFocusAfter(const QString& key) {
-    if (key == u"Add") {
-        frmMain->txtMLFields[0]->setFocus();
-    } else if (key == u"Del") {
+    if (key == kButtonAdd) {
+        frmMain->txtMLFields[kTextTitle]->setFocus();
+    } else if (key == kButtonDel) {
         frmMain->lstProductList->setFocus();
     }
 }
 
-void ChooseOutput(const QString& parentKey, int action) {
+void ChooseOutput(SheetKind kind, SheetAction action) {
     LeaveAssistance(frmMain);
-    ShowSheet(parentKey.toUpper() + "|" + frmMain->txtProductId->text(), action);
+    ShowSheet(kind, frmMain->txtProductId->text(), action);
 }
 
 void cmdPictures_Click() {
@@ -155,36 +149,45 @@ void cmdPictures_Click() {
 }
 
 void PressSearch() {
-    frmMain->Button("Search")->setChecked(true);
-    PressButton("Search");
+    frmMain->Button(kButtonSearch)->setChecked(true);
+    PressButton(kButtonSearch);
 }
 
 void ConnectButtons() {
-    for (const char* key : {"Add", "Del", "Save", "Preview", "Layout", "Report", "Print", "Mail",
-                            "Import", "Search", "LoanCalc"}) {
+    for (const auto key :
+         {kButtonAdd, kButtonDel, kButtonSave, kButtonPreview, kButtonLayout, kButtonReport,
+          kButtonPrint, kButtonMail, kButtonImport, kButtonSearch, kButtonLoanCalc}) {
         QObject::connect(frmMain->Button(key), &QAction::triggered, frmMain,
                          [key] { PressButton(key); });
-    }
-    for (const char* parent : {"Layout", "Report"}) {
-        QObject::connect(frmMain->ButtonMenu(parent, "Print"), &QAction::triggered, frmMain,
-                         [parent] { ChooseOutput(parent, kSheetPrint); });
-        QObject::connect(frmMain->ButtonMenu(parent, "Mail"), &QAction::triggered, frmMain,
-                         [parent] { ChooseOutput(parent, kSheetMail); });
     }
     QObject::connect(frmMain->cmdPictures, &QPushButton::clicked, frmMain, cmdPictures_Click);
     QObject::connect(frmMain->cmdInternalData, &QPushButton::clicked, frmMain, ShowInternalData);
 }
 
+void ConnectDropDown(const QString& button, SheetKind kind) {
+    QObject::connect(frmMain->ButtonMenu(button, kButtonPrint), &QAction::triggered, frmMain,
+                     [kind] { ChooseOutput(kind, SheetAction::Print); });
+    QObject::connect(frmMain->ButtonMenu(button, kButtonMail), &QAction::triggered, frmMain,
+                     [kind] { ChooseOutput(kind, SheetAction::Mail); });
+}
+
 void ConnectMenu() {
-    static constexpr std::array<const char*, 6> kButtonOfEntry = {"Add",    "Del",   "Preview",
-                                                                  "Layout", "Print", "Mail"};
-    for (std::size_t entry = 0; entry < kButtonOfEntry.size(); ++entry) {
+    static constexpr std::array<std::pair<ProductEntry, QLatin1StringView>, 6> kButtonOfEntry = {
+        {{kEntryAdd, kButtonAdd},
+         {kEntryDel, kButtonDel},
+         {kEntryPreview, kButtonPreview},
+         {kEntryLayout, kButtonLayout},
+         {kEntryPrint, kButtonPrint},
+         {kEntryMail, kButtonMail}}};
+    for (const auto& [entry, key] : kButtonOfEntry) {
         QObject::connect(frmMain->mnuActionsC[entry], &QAction::triggered, frmMain,
-                         [entry] { PressButton(kButtonOfEntry[entry]); });
+                         [button = key] { PressButton(button); });
     }
-    QObject::connect(frmMain->mnuActionsC[6], &QAction::triggered, frmMain, PressSearch);
-    QObject::connect(frmMain->mnuActionsC[8], &QAction::triggered, frmMain, cmdPictures_Click);
-    QObject::connect(frmMain->mnuActionsC[9], &QAction::triggered, frmMain, ShowInternalData);
+    QObject::connect(frmMain->mnuActionsC[kEntrySearch], &QAction::triggered, frmMain, PressSearch);
+    QObject::connect(frmMain->mnuActionsC[kEntryPictures], &QAction::triggered, frmMain,
+                     cmdPictures_Click);
+    QObject::connect(frmMain->mnuActionsC[kEntryInternalData], &QAction::triggered, frmMain,
+                     ShowInternalData);
 }
 
 } // namespace
@@ -195,7 +198,7 @@ void PressButton(const QString& key) {
         const BusyPointer busy;
         RunCommand(key);
     }
-    if (key != u"Search" && ListRowCount() > 0) {
+    if (key != kButtonSearch && ListRowCount() > 0) {
         SelectRow(SelectedRow()); // scrolls it into view
     }
     RefreshButtons();
@@ -204,5 +207,7 @@ void PressButton(const QString& key) {
 
 void ConnectActions() {
     ConnectButtons();
+    ConnectDropDown(kButtonLayout, SheetKind::Layout);
+    ConnectDropDown(kButtonReport, SheetKind::Report);
     ConnectMenu();
 }

@@ -15,13 +15,12 @@
 #include "store/corpinfo.h"
 #include "store/fielddefs.h"
 #include "store/languages.h"
+#include "store/langvalues.h"
 #include "store/productref.h"
 #include "store/products.h"
 #include "store/store.h"
 
 namespace {
-
-constexpr int kTabPublish = 1;
 
 // The configuration may have moved the catalogue: then the new one is opened in place of the old.
 void OpenConfig(int page) {
@@ -71,10 +70,12 @@ void ConnectMenus() {
     const auto openHosting = [] { OpenConfig(kPageHosting); };
     QObject::connect(frmMain->cmdTemplates, &QPushButton::clicked, frmMain, openDesigns);
     QObject::connect(frmMain->cmdHosting, &QPushButton::clicked, frmMain, openHosting);
-    QObject::connect(frmMain->mnuActionsGen[0], &QAction::triggered, frmMain->cmdUpdateWeb[0],
-                     &QPushButton::click);
-    QObject::connect(frmMain->mnuActionsGen[1], &QAction::triggered, frmMain, openDesigns);
-    QObject::connect(frmMain->mnuActionsGen[2], &QAction::triggered, frmMain, openHosting);
+    QObject::connect(frmMain->mnuActionsGen[kEntryUpdate], &QAction::triggered,
+                     frmMain->cmdUpdateWeb[kPublishUpdate], &QPushButton::click);
+    QObject::connect(frmMain->mnuActionsGen[kEntryDesign], &QAction::triggered, frmMain,
+                     openDesigns);
+    QObject::connect(frmMain->mnuActionsGen[kEntryHosting], &QAction::triggered, frmMain,
+                     openHosting);
     QObject::connect(frmMain->mnuExit, &QAction::triggered, frmMain, &QWidget::close);
     QObject::connect(frmMain->mnuHelpContents, &QAction::triggered, frmMain, OpenManual);
     QObject::connect(frmMain->mnuAbout, &QAction::triggered, frmMain, ShowAbout);
@@ -91,7 +92,7 @@ void ConnectTextAssistance() {
         events->Watch(box);
     }
     ConnectAssistance({frmMain->fraLangAssist, frmMain->lblToTranslate, frmMain->lblLangScroll,
-                       frmMain->txtMLFields, "Products"},
+                       frmMain->txtMLFields, TextTable::Products},
                       events, OpenProductId);
 }
 

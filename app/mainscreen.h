@@ -8,6 +8,6 @@ void ConnectMainScreen();
 // `cancel` and the form stays) and saves the product.
 void LeaveMainScreen(bool& cancel);
 
-// Shows one of the form's pages, 0 or 1; entering the publish page saves the product and fills that
-// page.
+// Shows one of the form's pages, a MainTab; entering the publish page saves the product and fills
+// that page.
 void SelectMainTab(int tab);

@@ -9,11 +9,6 @@
 
 namespace {
 
-constexpr int kStorageFTP = 1;
-
-constexpr int kMessageListed = 1;
-constexpr int kMessageFeatured = 2;
-
 // A path of this length or more is shortened in its middle, characters.
 constexpr int kPathShown = 48;
 constexpr char kEllipsis[] = "...";

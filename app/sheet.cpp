@@ -12,15 +12,6 @@
 
 namespace {
 
-enum SheetAction { kShow = 0, kPrint = 1, kMail = 2 };
-
-constexpr int kMessagePreviewTitle = 8;
-constexpr int kMessagePrint = 9;
-constexpr int kMessagePrintTitle = 10;
-constexpr int kMessageSubject = 11;
-constexpr int kMessageMail = 12;
-constexpr int kMessageMailTitle = 13;
-
 constexpr char kNeedsBrowser[] =
     "Asegúrese que tiene Internet Explorer 4.0 o superior instalado en el sistema.";
 constexpr char kNeedsMail[] =
@@ -41,10 +32,11 @@ void Print(const QString& page) {
     }
 }
 
-// The link's form is old and not quite right; the mail programs that users have set up know it so.
+// Not quite as RFC 6068 has it: a "&" in front, quotes around the texts. Mended, the user's mails
+// would have other subjects than those that customers' answers and mail filters go by.
 void Mail(const QString& page) {
-    const QString link = "mailto:&Subject='" + Messages[kMessageSubject] + ": " +
-                         ControlText(frmMain->txtMLFields[0]) +
+    const QString link = "mailto:&Subject='" + Messages[kMessageMailSubject] + ": " +
+                         ControlText(frmMain->txtMLFields[kTextTitle]) +
                          "'&Body='(Escriba aquí su comentario, oferta, saludo, etc)'";
     if (page.isEmpty() || !OpenWithSystem(link)) {
         MsgBox(Messages[kMessageMail] + ". " + kNeedsMail, BoxIcon::Warning,
@@ -52,37 +44,38 @@ void Mail(const QString& page) {
     }
 }
 
-// The path of the product's page of that kind; empty where it could not be made, or there is none.
-QString PageOf(const QString& kind, const QString& productId, SiteSnapshot& snapshot) {
-    if (kind == u"PRODUCT") {
+// Path of the page; empty where it could not be made, or there is none.
+QString PageOf(SheetKind kind, const QString& productId, SiteSnapshot& snapshot) {
+    switch (kind) {
+    case SheetKind::Product:
         return GeneratePreviewPage({PreviewPage::Product, productId}, TemplPath, snapshot);
-    }
-    if (kind == u"LAYOUT") {
+    case SheetKind::Layout:
         return GeneratePreviewPage({PreviewPage::Layout, productId}, TemplPath, snapshot);
+    case SheetKind::Report:
+        break;
     }
     return {};
 }
 
 } // namespace
 
-void ShowSheet(const QString& spec, int action) {
-    const QString kind = spec.section(u'|', 0, 0);
-    if (kind == u"PRODUCT" || kind == u"LAYOUT") {
+void ShowSheet(SheetKind kind, const QString& productId, SheetAction action) {
+    if (kind != SheetKind::Report) {
         SaveCurrentProduct();
     }
     SiteSnapshot snapshot;
     TakeSiteSnapshot(snapshot);
-    const QString page = PageOf(kind, spec.section(u'|', 1, 1), snapshot);
+    const QString page = PageOf(kind, productId, snapshot);
     DropSiteSnapshot(snapshot);
     switch (action) {
-    case kPrint:
+    case SheetAction::Show:
+        Show(page);
+        break;
+    case SheetAction::Print:
         Print(page);
         break;
-    case kMail:
+    case SheetAction::Mail:
         Mail(page);
-        break;
-    default:
-        Show(page);
         break;
     }
 }

@@ -3,7 +3,17 @@
 
 #include <QString>
 
-// `spec` is a kind ("PRODUCT", "LAYOUT" or "REPORT") and a product number joined by "|". `action`:
-// 0 shows the page in the system's browser, 1 prints it, 2 opens a mail about the product. A
-// failure is told to the user.
-void ShowSheet(const QString& spec, int action);
+enum class SheetKind {
+    Product, // its page
+    Layout,  // its printable sheet
+    Report   // no design has one: every action tells that it failed
+};
+
+enum class SheetAction {
+    Show, // in the system's browser
+    Print,
+    Mail // opens a mail about the product
+};
+
+// Saves the product on screen, but for a Report, and makes its page. A failure is told to the user.
+void ShowSheet(SheetKind kind, const QString& productId, SheetAction action);

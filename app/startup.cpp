@@ -24,7 +24,6 @@
 namespace {
 
 constexpr int kSmallestWidth = 800; // pixels of the screen
-constexpr int kMenuOtherWebs = 3;   // entry "Otras &Webs" of the configuration menu
 constexpr int kPasswordBlanks = 255;
 
 // Set by the password dialog alone: the application password was given correctly.
@@ -199,7 +198,7 @@ void StartProgram() {
     LoadSettings();
     AskPassword();
     OpenCatalogue();
-    frmMain->mnuConfig[kMenuOtherWebs]->setVisible(IsRealEstateFlavour());
+    frmMain->mnuConfig[kPagePortal]->setVisible(IsRealEstateFlavour());
     frmMain->show();
     if (frmSplash != nullptr) { // it stays in front for the rest of its time
         frmSplash->raise();

@@ -19,12 +19,6 @@ PublishOutcome LastOutcome = PublishOutcome::None;
 
 namespace {
 
-constexpr int kButtonUpdate = 0;
-constexpr int kButtonCancel = 1;
-constexpr int kStorageLocal = 0;
-constexpr int kOptionChanged = 0;
-constexpr int kOptionAll = 1;
-
 // A run is under way: after a cancel the button is back before the run has noticed, and must not
 // start another one inside it.
 bool publishing = false;
@@ -37,13 +31,13 @@ void ShowButton(int shown, int hidden) {
 
 void ShowBusy(bool busy) {
     if (busy) {
-        ShowButton(kButtonCancel, kButtonUpdate);
+        ShowButton(kPublishCancel, kPublishUpdate);
     }
     EnableWhileBusy("cmdUpdateWeb", !busy, frmMain);
     if (!busy) {
         DisableUnusedFields();
         RefreshButtons();
-        ShowButton(kButtonUpdate, kButtonCancel);
+        ShowButton(kPublishUpdate, kPublishCancel);
     }
 }
 
@@ -59,7 +53,7 @@ bool RunGeneration() {
     bool delivered = false;
     try {
         TakeSiteSnapshot(snapshot);
-        const bool changedOnly = frmMain->optAllOrChanged[kOptionChanged]->isChecked();
+        const bool changedOnly = frmMain->optAllOrChanged[kPublishChanged]->isChecked();
         // A cancel may have come since the press of the button: then nothing begins.
         delivered = !AbortPublish && GenerateSite(TemplPath, snapshot, changedOnly);
     } catch (const std::exception& failure) {
@@ -106,7 +100,7 @@ void Publish() {
 
 void ConnectPublish() {
     ConnectPublishPage();
-    for (int index : {kButtonUpdate, kButtonCancel}) {
+    for (int index : {kPublishUpdate, kPublishCancel}) {
         QObject::connect(frmMain->cmdUpdateWeb[index], &QPushButton::clicked, frmMain,
                          [index] { cmdUpdateWeb_Click(index); });
     }
@@ -114,12 +108,12 @@ void ConnectPublish() {
 
 void cmdUpdateWeb_Click(int index) {
     // Disabling disturbs the choice, so it is noted and set again.
-    const bool wholeSite = frmMain->optAllOrChanged[kOptionAll]->isChecked();
-    QRadioButton* chosen = frmMain->optAllOrChanged[wholeSite ? kOptionAll : kOptionChanged];
-    if (index == kButtonUpdate && publishing) {
+    const bool wholeSite = frmMain->optAllOrChanged[kPublishAll]->isChecked();
+    QRadioButton* chosen = frmMain->optAllOrChanged[wholeSite ? kPublishAll : kPublishChanged];
+    if (index == kPublishUpdate && publishing) {
         return;
     }
-    if (index == kButtonUpdate) {
+    if (index == kPublishUpdate) {
         publishing = true;
         SetAbortPublish(false);
         ShowBusy(true);

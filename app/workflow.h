@@ -9,7 +9,8 @@ extern PublishOutcome LastOutcome; // written here; None until a run has ended
 // Connects the buttons of the page "Actualizar Web".
 void ConnectPublish();
 
-// Either button: 0 starts a run and returns when it is over, 1 cancels it.
+// Either PublishButton: kPublishUpdate starts a run and returns when it is over, kPublishCancel
+// cancels it.
 void cmdUpdateWeb_Click(int index);
 
 // Asks the run to stop at its next test; the current step shows as failed at once.

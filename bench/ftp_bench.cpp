@@ -259,7 +259,7 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     MainForm form;
     form.show();
-    SetStorage(1, {});
+    SetStorage(kStorageFTP, {});
     const QString obstacle = RealServer::Obstacle(kKind);
     const bool served = obstacle.isEmpty();
     const bool compared = served && !QStandardPaths::findExecutable("lftp").isEmpty();

@@ -25,12 +25,10 @@
 namespace {
 
 enum BrowseButton { kBrowseStore = 0, kBrowsePictures = 1, kBrowseSite = 2 };
-enum StorageOption { kStorageLocal = 0, kStorageFTP = 1 };
 
 // The connection is being checked: an impatient second press must not cut the check short.
 bool checking = false;
 
-constexpr int kMessagePictureFolder = 17;
 constexpr char kMaker[] = "Perlanta";
 constexpr char kFeaturedCount[] = "SELECT count(*) FROM Products WHERE IsNew = 1";
 
@@ -89,7 +87,7 @@ void ApplyLanguages(const ConfigForm& form) {
     if (DefaultLang != before) {
         ChangeListLanguage(before, DefaultLang);
     }
-    if (!UserLangs.split(u'|').contains(UICurrentLang)) {
+    if (!UserLangs.split(kLanguageSeparator).contains(UICurrentLang)) {
         ReturnToLanguage(DefaultLang);
     }
 }

@@ -29,7 +29,7 @@ void ShowDesign(ConfigForm& form, const QString& path) {
 }
 
 QColor SwatchColor(const QString& hexadecimal) {
-    // The last two digits are red, as colour numbers of this program have always been written.
+    // The last two digits are red: designs say their colours in this order (docs/designs.md).
     bool number = false;
     const uint value = hexadecimal.trimmed().toUInt(&number, 16);
     return number ? QColor(value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF) : QColor();
@@ -190,14 +190,14 @@ LanguageChoice ChosenLanguages(const ConfigForm& form) {
     if (!codes.contains(defaultLang)) {
         defaultLang = codes.value(0);
     }
-    return {codes.join(u'|'), defaultLang};
+    return {codes.join(kLanguageSeparator), defaultLang};
 }
 
 void ShowTemplateLanguages(ConfigForm& form) {
-    if (!TemplateLangs.isEmpty() && !TemplateLangs.contains(u'|')) {
+    if (!TemplateLangs.isEmpty() && !TemplateLangs.contains(kLanguageSeparator)) {
         SetUserLangs(TemplateLangs, TemplateLangs);
     }
-    const QStringList codes = TemplateLangs.split(u'|');
+    const QStringList codes = TemplateLangs.split(kLanguageSeparator);
     for (std::size_t k = 0; k < form.chkLang.size(); ++k) {
         ShowLanguage(form, k, codes.value(qsizetype(k)));
     }

@@ -37,7 +37,7 @@ constexpr std::array<FlavourValue, kFlavourLines> kValues{{
     {&ProdGender, "M"},
     {&CategoryCaption, "Categoría"},
     {&CategoryTip, "Familia/Subfamilia de Productos a la que pertenece %PDETSING% %PRODSING%"},
-    {&LogoCaption, "[N/A]"},
+    {&LogoCaption, kNotAvailable},
 }};
 
 } // namespace
@@ -73,4 +73,8 @@ bool IsGenericFlavour() {
 
 bool IsRealEstateFlavour() {
     return AppBrand == u"ZAND" && AppSector == u"INMO";
+}
+
+bool HasLogoBox() {
+    return LogoCaption != QLatin1StringView(kNotAvailable);
 }

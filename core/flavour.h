@@ -10,6 +10,9 @@
 // Lines that a flavour file must hold; more are ignored.
 inline constexpr int kFlavourLines = 9;
 
+// In place of a caption, in flavour files too: the trade has no such control.
+inline constexpr char kNotAvailable[] = "[N/A]";
+
 extern QString AppBrand;        // first half of the flavour code, four characters; "LUM_"
 extern QString AppSector;       // second half: "PROD", "INMO" or "AUTO"; "PROD"
 extern QString AppName;         // name shown, and application of all settings; "Lumenta"
@@ -18,7 +21,7 @@ extern QString ProdPlur;        // noun for several; "Productos"
 extern QString ProdGender;      // "M" is masculine, anything else feminine; "M"
 extern QString CategoryCaption; // caption of the category field; "Categoría"
 extern QString CategoryTip;     // its tool tip, placeholders and all
-extern QString LogoCaption;     // caption of the association's logo box; "[N/A]" hides the box
+extern QString LogoCaption;     // caption of the association's logo box; kNotAvailable
 
 // The lines of a flavour file: its last byte is cut, every other byte is complemented against 255,
 // lines are separated by CR LF, text is Windows-1252. Any bytes give some lines.
@@ -29,6 +32,7 @@ QStringList ReadSectorLines(const QByteArray& bytes);
 // True if the file exists, whatever it holds.
 bool LoadFlavour(const QString& folder);
 
-// The two tests that the program's decisions hang on.
+// The tests that the program's decisions hang on.
 bool IsGenericFlavour();    // LUM_ + PROD
 bool IsRealEstateFlavour(); // ZAND + INMO
+bool HasLogoBox();          // LogoCaption is one

@@ -199,8 +199,8 @@ void SaveSettings() {
     CommitSettings();
 }
 
-void AddDeletedItem(const QString& type, const QString& key) {
-    const QString entry = type + key;
+void AddDeletedItem(DeletedItem kind, const QString& key) {
+    const QString entry = QLatin1Char(static_cast<char>(kind)) + key;
     if (DeletedItems.contains(entry, Qt::CaseInsensitive)) {
         return;
     }
@@ -244,7 +244,7 @@ void SetColorSet(int number) {
     TemplColorSet = number;
 }
 
-void SetStorage(int method, const QString& folder) {
+void SetStorage(StorageKind method, const QString& folder) {
     StorageMethod = method;
     StoragePath = WithSeparator(folder);
 }

@@ -5,20 +5,29 @@
 
 #include <QString>
 
+// Ways of publishing, as stored.
+enum StorageKind { kStorageLocal = 0, kStorageFTP = 1 };
+
+// Between the codes of a list of languages, as stored here and in designs.
+inline constexpr char16_t kLanguageSeparator = u'|';
+
+// What is deleted, as stored.
+enum class DeletedItem : char { Product = 'P', Picture = 'I' };
+
 // Section Params. Folders end in "/".
 extern QString DBpath;        // folder of the store; program folder + "Data/"
 extern QString DBname;        // store file name; "Zandora.zdb"
-extern int StorageMethod;     // 0 publishes to StoragePath, 1 to the FTP server
+extern int StorageMethod;     // a StorageKind: to StoragePath or to the FTP server
 extern QString StoragePath;   // folder where the site is written; DBpath + "temp/"
 extern QString FTPUser;       // empty logs in as anonymous
 extern QString FTPPass;       // plain
 extern QString FTPServer;     // host name or address
 extern QString FTPPath;       // folder on the server; "/"
 extern QString LastWebUpdate; // date text of the last finished publication; empty: never
-extern QString DeletedItems;  // kind letter and key of things deleted since then, joined by "|"
+extern QString DeletedItems;  // DeletedItem and key of things deleted since then, joined by "|"
 extern QString DefaultLang;   // main language; "ES"
-extern QString UserLangs;     // languages of the site, joined by "|"; "ES"
-extern QString TemplateLangs; // languages of the chosen template, joined by "|"; "ES"
+extern QString UserLangs;     // languages of the site, joined by kLanguageSeparator; "ES"
+extern QString TemplateLangs; // languages of the chosen template, joined likewise; "ES"
 extern QString AppPath;       // folder of the program
 extern bool MultiUser;        // the store is shared: the list refreshes every minute
 extern bool ShowAPIlogo;      // the company shows the association's logo
@@ -56,10 +65,10 @@ void LoadSettings();
 // Writes all values but ShowAPIlogo, VSurl and VSname, as one write.
 void SaveSettings();
 
-// Adds kind letter + key to DeletedItems and writes that key at once, unless the entry occurs
-// anywhere in it already: P12 also counts as present inside P123, on purpose, since existing lists
-// rely on it.
-void AddDeletedItem(const QString& type, const QString& key);
+// Adds kind and key to DeletedItems and writes that key at once, unless the entry occurs anywhere
+// in it already. P12 also counts as present inside P123, on purpose: the stored list then holds the
+// same entries whichever copy of the program has written it.
+void AddDeletedItem(DeletedItem kind, const QString& key);
 
 // Single values that other rooms change during the run; in memory until SaveSettings. Folders may
 // lack their trailing "/".
@@ -75,7 +84,7 @@ void SetStoreFolder(const QString& folder);
 
 void SetTemplate(const QString& path, int number, int maxEmphasised);
 void SetColorSet(int number);
-void SetStorage(int method, const QString& folder);
+void SetStorage(StorageKind method, const QString& folder);
 void SetFTP(const QString& server, const QString& path, const QString& user, const QString& pass);
 void SetPictureFolder(const QString& folder);
 void SetPassword(const QString& password);

@@ -14,6 +14,7 @@ std::array<QString, kMessageCount> Messages;
 
 namespace {
 
+// By Message.
 constexpr std::array<const char*, kMessageCount> kTemplates{
     "%PPROSING% %PRODSING% tiene %1 fotografias asociadas",
     "%PRODPLUR% Anunciados:   %1",
@@ -39,7 +40,6 @@ constexpr std::array<const char*, kMessageCount> kTemplates{
 constexpr char kMasculine[] = "M";
 constexpr char kMainForm[] = "frmMain";
 constexpr char kCompanyForm[] = "frmCorpInfo";
-constexpr char kNoLogo[] = "[N/A]";
 
 QString Expanded(QString text) {
     return ExpandVocabulary(text);
@@ -112,10 +112,10 @@ void ApplyLogo(const QWidget* form) {
     if (box == nullptr) {
         return;
     }
-    if (LogoCaption == QLatin1String(kNoLogo)) {
-        box->hide();
-    } else {
+    if (HasLogoBox()) {
         box->setText(LogoCaption);
+    } else {
+        box->hide();
     }
 }
 

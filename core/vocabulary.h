@@ -7,10 +7,31 @@
 
 class QWidget;
 
-inline constexpr int kMessageCount = 18;
+// Places in Messages, named by what the text is for.
+enum Message {
+    kMessagePictureCount = 0, // %1 of pictures
+    kMessageListed = 1,       // %1 of products
+    kMessageFeatured = 2,     // %1 of products and their limit
+    kMessageDelete = 3,       // question
+    kMessageDeleteTitle = 4,
+    kMessageGone = 5, // deleted by another user
+    kMessageGoneTitle = 6,
+    kMessagePictureLimit = 7, // stands behind the number
+    kMessagePreviewTitle = 8,
+    kMessagePrint = 9, // can't be printed
+    kMessagePrintTitle = 10,
+    kMessageMailSubject = 11,
+    kMessageMail = 12, // can't be mailed
+    kMessageMailTitle = 13,
+    kMessageFeaturedLimit = 14, // stands behind the number
+    kMessageReplaceOldest = 15, // question
+    kMessageRefNeeded = 16,     // a reference must be unique
+    kMessagePictureFolder = 17, // title of a choice
+    kMessageCount = 18
+};
 
-// Expanded message templates, by the index that their users know; "%1" is left for the caller.
-// Built once at start by BuildMessages, only read after.
+// Expanded message templates, by Message; "%1" is left for the caller. Built once at start by
+// BuildMessages, only read after.
 extern std::array<QString, kMessageCount> Messages;
 
 // Expands the placeholders of `text` in place; the result is the same text with its first character

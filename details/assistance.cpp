@@ -107,7 +107,7 @@ void ConnectAssistance(const AssistPanel& panel, ControlEvents* events, QString 
 
 void ShowLangAssist(const AssistPanel& panel, const QString& itemId, int index) {
     RunQuery(kCursorScratch, QString(kOtherLanguageStatement)
-                                 .replace("%1", panel.tableName)
+                                 .replace("%1", TextTableName(panel.table))
                                  .replace("%2", itemId)
                                  .replace("%3", QString::number(index))
                                  .replace("%4", UICurrentLang));

@@ -2,6 +2,8 @@
 // or to take over.
 #pragma once
 
+#include "store/langvalues.h"
+
 #include <QString>
 #include <vector>
 
@@ -17,7 +19,7 @@ struct AssistPanel {
     QLabel* lblToTranslate;
     std::vector<QToolButton*> lblLangScroll;
     std::vector<QWidget*> boxes; // txtMLFields of the screen
-    QString tableName;           // of the texts: "Products" or "Pictures"
+    TextTable table;             // of the texts
 };
 
 // Connects the panel of a screen. `itemId` gives the ItemId of the open item when it is asked.

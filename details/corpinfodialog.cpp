@@ -20,21 +20,18 @@
 
 namespace {
 
-constexpr int kPageRegistry = 3; // has no texts per language
-constexpr char kNoLogo[] = "[N/A]";
-
 // A picture is decoded for a frame of at least this size: the window may grow afterwards.
 constexpr QSize kPictureShown(640, 480);
 
-// By index of the picture's controls: where its copy lies and what the choice is called.
-struct CompanyPicture {
+// By CompanyPicture: where its copy lies and what the choice is called.
+struct PictureChoice {
     const char* file;
     const char* title;
 };
-constexpr std::array<CompanyPicture, 3> kPictures = {
-    {{"CorpLogo.dat", "Seleccione la imagen de Logotipo"},
-     {"ExtraImage.dat", "Seleccione la imagen adicional"},
-     {"FindUsMap.dat", "Seleccione la imagen del Mapa de Situación"}}};
+constexpr std::array<PictureChoice, 3> kPictures = {
+    {{kCorpLogoFile, "Seleccione la imagen de Logotipo"},
+     {kExtraPictureFile, "Seleccione la imagen adicional"},
+     {kFindUsMapFile, "Seleccione la imagen del Mapa de Situación"}}};
 
 constexpr char kRegistryText[] =
     "(...) inscrita en el Registro Mercantil de %1, Tomo %2, Libro %3, Folio %4, Sección %5, Hoja "
@@ -77,9 +74,9 @@ void CorpInfoToForm(CorpInfoForm& form) {
     form.txtPostalCode->setText(CorpInfoData.PostalCode);
     form.txtZone->setText(CorpInfoData.Zone);
     form.txtContactEmail->setText(CorpInfoData.ContactEmail);
-    form.txtPicturePath[0]->setText(CorpInfoData.CorpLogo);
-    form.txtPicturePath[1]->setText(CorpInfoData.ExtraPicture);
-    form.txtPicturePath[2]->setText(CorpInfoData.FindUsMap);
+    form.txtPicturePath[kPictureLogo]->setText(CorpInfoData.CorpLogo);
+    form.txtPicturePath[kPictureOffices]->setText(CorpInfoData.ExtraPicture);
+    form.txtPicturePath[kPictureMap]->setText(CorpInfoData.FindUsMap);
     for (std::size_t line = 0; line < form.txtMRInfo.size(); ++line) {
         form.txtMRInfo[line]->setText(CorpInfoData.MRinfo.at(line));
     }
@@ -98,9 +95,9 @@ void FormToCorpInfo(CorpInfoForm& form) {
     record.PostalCode = form.txtPostalCode->text();
     record.Zone = form.txtZone->text();
     record.ContactEmail = form.txtContactEmail->text();
-    record.CorpLogo = form.txtPicturePath[0]->text();
-    record.ExtraPicture = form.txtPicturePath[1]->text();
-    record.FindUsMap = form.txtPicturePath[2]->text();
+    record.CorpLogo = form.txtPicturePath[kPictureLogo]->text();
+    record.ExtraPicture = form.txtPicturePath[kPictureOffices]->text();
+    record.FindUsMap = form.txtPicturePath[kPictureMap]->text();
     for (std::size_t line = 0; line < form.txtMRInfo.size(); ++line) {
         record.MRinfo.at(line) = form.txtMRInfo[line]->text();
     }
@@ -142,8 +139,8 @@ void cmdPreview_Click(CorpInfoForm& form, std::size_t i) {
     SiteSnapshot snapshot;
     SaveForGood(form);
     TakeSiteSnapshot(snapshot);
-    const QString page = GeneratePreviewPage({i == 0 ? PreviewPage::AboutUs : PreviewPage::FindUs},
-                                             TemplPath, snapshot);
+    const PreviewPage shown = i == kPreviewAboutUs ? PreviewPage::AboutUs : PreviewPage::FindUs;
+    const QString page = GeneratePreviewPage({shown}, TemplPath, snapshot);
     DropSiteSnapshot(snapshot);
     LoadCorpLangValues();
     if (!OpenWithSystem(page)) {
@@ -183,11 +180,12 @@ void cmdOK_Click(CorpInfoForm& form) {
 
 void SelectPage(CorpInfoForm& form, int page) {
     form.ShowTab(page);
-    form.fraLang->setVisible(page != kPageRegistry && UserLangs.contains(kLanguageSeparator));
+    const bool hasTexts = page != kPageRegistry;
+    form.fraLang->setVisible(hasTexts && UserLangs.contains(kLanguageSeparator));
 }
 
 void ShowLogoBox(CorpInfoForm& form) {
-    form.chkShowAPIlogo->setVisible(LogoCaption != QLatin1StringView(kNoLogo));
+    form.chkShowAPIlogo->setVisible(HasLogoBox());
     form.chkShowAPIlogo->setText(LogoCaption);
 }
 

@@ -7,8 +7,6 @@
 class QToolButton;
 class QWidget;
 
-inline constexpr char kLanguageSeparator[] = "|"; // of language lists in settings
-
 // False while buttons are being arranged: setting a button's value fires its click. True at start.
 extern bool LangButtonsReady;
 

@@ -11,14 +11,14 @@
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "store/langvalues.h"
+#include "store/openrecord.h"
 #include "store/picturerecords.h"
-#include "store/products.h"
 #include "store/store.h"
 
 namespace {
 
-// Part of these that a file's ending must be; any part counts, as dropped files have always been
-// judged.
+// Part of these that a file's ending must be; any part counts. What is no picture after all shows
+// as a damaged one, and the user is told.
 constexpr char kEndings[] = "bmp|jpg|jpeg|gif|BMP|JPG|JPEG|GIF";
 
 Recordset& Rows() {
@@ -29,18 +29,14 @@ int CurrentSlot() {
     return Rows().AbsolutePosition() - 1;
 }
 
-bool IsReadOnly() {
-    return !frmPictures->fraReadOnly->isHidden();
-}
-
 void UpdateAlbumToolbar(int slot) {
     const int count = Rows().RecordCount();
     const bool chosen = count >= 1 && slot >= 0;
-    frmPictures->Button("Add")->setEnabled(count < PictureLimit());
-    frmPictures->Button("Del")->setEnabled(chosen);
-    frmPictures->Button("Change")->setEnabled(chosen);
-    frmPictures->Button("MoveUp")->setEnabled(chosen && slot > 0);
-    frmPictures->Button("MoveDn")->setEnabled(chosen && slot < count - 1);
+    frmPictures->Button(kPictureAdd)->setEnabled(count < PictureLimit());
+    frmPictures->Button(kPictureDel)->setEnabled(chosen);
+    frmPictures->Button(kPictureChange)->setEnabled(chosen);
+    frmPictures->Button(kPictureMoveUp)->setEnabled(chosen && slot > 0);
+    frmPictures->Button(kPictureMoveDn)->setEnabled(chosen && slot < count - 1);
     for (QWidget* box : frmPictures->txtMLFields) {
         box->setEnabled(chosen);
     }
@@ -73,13 +69,14 @@ void DeleteCurrentPicture() {
         return;
     }
     const int position = Rows().AbsolutePosition();
-    AddDeletedItem("I", frmPictures->txtPictureId->text());
+    AddDeletedItem(DeletedItem::Picture, frmPictures->txtPictureId->text());
     DeletePicture();
     EmptyThumbnail(position - 1);
     LoadThumbnails();
     ShowCurrentPicture(CurrentSlot());
     UpdateAlbumToolbar(CurrentSlot());
-    // The slot before the deleted one, as the album has always chosen.
+    // The picture that has moved up, or the one before where at most one follows: at the end of the
+    // album the selection goes towards its beginning.
     SelectSlot(position < Rows().RecordCount() ? position - 1 : position - 2);
 }
 
@@ -100,15 +97,15 @@ void Move(int step) {
 
 void tlbPicture_ButtonClick(const QString& key) {
     LeaveAssistance(frmPictures);
-    if (key == u"Add") {
+    if (key == kPictureAdd) {
         AddFile({});
-    } else if (key == u"Del") {
+    } else if (key == kPictureDel) {
         DeleteCurrentPicture();
-    } else if (key == u"Change") {
+    } else if (key == kPictureChange) {
         ChangeCurrentPicture();
-    } else if (key == u"MoveUp") {
+    } else if (key == kPictureMoveUp) {
         Move(-1);
-    } else if (key == u"MoveDn") {
+    } else if (key == kPictureMoveDn) {
         Move(1);
     }
 }
@@ -120,7 +117,7 @@ int SlotOf(const ClickArea* area) {
 
 // A picture dragged from one slot to another bubbles to its place; those between shift by one.
 void DropSlot(int source, int target) {
-    if (IsReadOnly() || Rows().RecordCount() < 2 || source == target ||
+    if (ProductIsReadOnly() || Rows().RecordCount() < 2 || source == target ||
         source >= Rows().RecordCount()) {
         return;
     }
@@ -137,7 +134,7 @@ bool IsPictureName(const QString& path) {
 }
 
 void DropFiles(const QStringList& paths) {
-    if (IsReadOnly()) {
+    if (ProductIsReadOnly()) {
         return;
     }
     for (const QString& path : paths) {
@@ -188,7 +185,8 @@ QString OpenPictureId() {
 }
 
 void Connect(PicturesForm& form) {
-    for (const char* key : {"Add", "Del", "Change", "MoveUp", "MoveDn"}) {
+    for (const auto key :
+         {kPictureAdd, kPictureDel, kPictureChange, kPictureMoveUp, kPictureMoveDn}) {
         QObject::connect(form.Button(key), &QAction::triggered, &form,
                          [key] { tlbPicture_ButtonClick(key); });
     }
@@ -201,7 +199,7 @@ void Connect(PicturesForm& form) {
     QObject::connect(form.lblOleDropZone, &DropZone::FilesDropped, &form, DropFiles);
     QObject::connect(form.lblOleDropZone, &DropZone::DraggedOver, &form,
                      [](const QStringList& paths, bool& accept) {
-                         accept = !IsReadOnly() &&
+                         accept = !ProductIsReadOnly() &&
                                   std::any_of(paths.begin(), paths.end(), IsPictureName);
                      });
     for (QToolButton* button : form.optLang) {
@@ -214,9 +212,9 @@ void Connect(PicturesForm& form) {
     for (QWidget* box : form.txtMLFields) {
         events->Watch(box);
     }
-    ConnectAssistance(
-        {form.fraLangAssist, form.lblToTranslate, form.lblLangScroll, form.txtMLFields, "Pictures"},
-        events, OpenPictureId);
+    ConnectAssistance({form.fraLangAssist, form.lblToTranslate, form.lblLangScroll,
+                       form.txtMLFields, TextTable::Pictures},
+                      events, OpenPictureId);
 }
 
 } // namespace

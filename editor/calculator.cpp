@@ -4,13 +4,13 @@
 #include "forms/calcform.h"
 #include "forms/mainform.h"
 #include "platform/dialogs.h"
+#include "store/products.h"
 #include "text/numbers.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr char16_t kAmount[] = u"#,##0.00";
 constexpr int kMonths = 12;
 constexpr double kPercent = 100;
 
@@ -24,11 +24,11 @@ std::optional<double> NumberIn(const QLineEdit* box) {
 }
 
 void ShowAmount(QLineEdit* box, double amount) {
-    box->setText(FormatNumber(amount, kAmount));
+    box->setText(FormatNumber(amount, kPriceShown));
 }
 
-// The percentage counts twice, in the amount and in the instalment, as the users' figures have
-// always done.
+// The percentage counts twice, in the amount and in the instalment. Odd, and on purpose: an
+// instalment that a client was told once must come out the same again.
 void cmdCalc_Click(CalcForm& form) {
     const auto price = NumberIn(form.txtPriceAmount);
     const auto percent = price ? NumberIn(form.txtLoanPerc) : std::nullopt;

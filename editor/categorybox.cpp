@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int kCategoryText = 2; // of txtMLFields
-
 // %1 is a language code in the first and what was typed in the second part. The same statement
 // serves both trades.
 constexpr char kKnownStatement[] =
@@ -21,7 +19,7 @@ constexpr char kLikeTyped[] = " AND FieldValue like \"%1%\"";
 constexpr char kKnownOrder[] = " GROUP BY FieldValue ORDER BY count(*) DESC, FieldValue ASC";
 
 QLineEdit* Box() {
-    return IsGenericFlavour() ? qobject_cast<QLineEdit*>(frmMain->txtMLFields[kCategoryText])
+    return IsGenericFlavour() ? qobject_cast<QLineEdit*>(frmMain->txtMLFields[kTextCategory])
                               : frmMain->txtZone;
 }
 
@@ -80,7 +78,7 @@ void AcceptSuggestion() {
         TakeSuggestion();
         ZoneHide(true);
     }
-    frmMain->txtMLFields[1]->setFocus();
+    frmMain->txtMLFields[kTextDescription]->setFocus();
 }
 
 void Category_KeyDown(const QKeyEvent* key, bool& handled) {
@@ -181,6 +179,6 @@ void ConnectCategoryBox() {
     QObject::connect(frmMain->lstZone, &QListWidget::itemDoubleClicked, frmMain, [] {
         TakeSuggestion();
         ZoneHide(false);
-        frmMain->txtMLFields[1]->setFocus();
+        frmMain->txtMLFields[kTextDescription]->setFocus();
     });
 }

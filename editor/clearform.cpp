@@ -5,6 +5,7 @@
 #include "platform/controls.h"
 #include "store/formstate.h"
 #include "store/langvalues.h"
+#include "store/openrecord.h"
 #include "store/picturerecords.h"
 #include "store/products.h"
 #include "store/store.h"
@@ -44,5 +45,5 @@ void ClearProductForm() {
     // What the boxes hold now belongs to no row.
     ParkCursor(kCursorTexts);
     ParkCursor(kCursorProduct);
-    frmMain->fraReadOnly->hide();
+    SetProductReadOnly(false);
 }

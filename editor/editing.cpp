@@ -4,6 +4,7 @@
 #include "editor/productlist.h"
 #include "forms/mainform.h"
 #include "store/formstate.h"
+#include "store/openrecord.h"
 #include "store/products.h"
 #include "store/store.h"
 

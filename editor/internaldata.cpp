@@ -9,11 +9,11 @@
 
 namespace {
 
-constexpr char kInternalStatement[] =
-    "SELECT * FROM ProductFieldDef WHERE Type='I' ORDER BY FieldDefId";
+// %1 is a condition of fieldtypes.h.
+constexpr char kDefsStatement[] = "SELECT * FROM ProductFieldDef WHERE %1 ORDER BY FieldDefId";
 
 void DressSlots(InternalForm& form) {
-    RunQuery(kCursorScratch, kInternalStatement);
+    RunQuery(kCursorScratch, QString(kDefsStatement).replace("%1", kInternalFields));
     Recordset& rows = adcData[kCursorScratch];
     for (std::size_t i = 0; i < form.txtFields.size() && rows.HasRow(); ++i, rows.MoveNext()) {
         const QString tip = rows.Text(u"ToolTipText");
@@ -49,7 +49,7 @@ void KeepData(InternalForm& form) {
 void ShowInternalData() {
     InternalForm form(frmMain);
     form.lblTitle->setText("Información Interna (Ref. " + frmMain->txtProductRef->text() + " - " +
-                           ControlText(frmMain->txtMLFields[0]) + ")");
+                           ControlText(frmMain->txtMLFields[kTextTitle]) + ")");
     DressSlots(form);
     ForEachPair(form, [](QLineEdit* box, const QLineEdit* slot) { box->setText(slot->text()); });
     QObject::connect(form.cmdClose, &QPushButton::clicked, &form, [&form] { KeepData(form); });

@@ -7,16 +7,10 @@
 #include "text/numbers.h"
 
 std::vector<int> ProductIds;
-QString CurrentListSQL;
-QString SelectedRef;
-int SortColumn = 0;
-bool SortDescending = false;
 int FeaturedCount = 0;
 bool NewProductPending = false;
 
 namespace {
-
-constexpr char16_t kListPrice[] = u"#,##0";
 
 ProductListModel& List() {
     return *frmMain->productList;
@@ -24,12 +18,30 @@ ProductListModel& List() {
 
 } // namespace
 
+void SetListRows(std::vector<int> ids, std::vector<ProductRow> rows) {
+    const FillingGuard filling;
+    FeaturedCount = static_cast<int>(
+        std::count_if(rows.begin(), rows.end(), [](const ProductRow& row) { return row.bold; }));
+    ProductIds = std::move(ids);
+    List().SetRows(std::move(rows));
+}
+
 void AppendNewProductRow() {
     ProductIds.push_back(frmMain->txtProductId->text().toInt());
     List().AppendRow(
-        {{frmMain->txtProductRef->text(), {}, FormatNumber(0, kListPrice)}, false, false});
+        {{frmMain->txtProductRef->text(), {}, FormatNumber(0, kPriceListed)}, false, false});
     SelectRow(ListRowCount() - 1);
     NewProductPending = true;
+}
+
+void SettleNewProduct() {
+    NewProductPending = false;
+}
+
+void RemoveListRow(int row) {
+    const FillingGuard filling;
+    List().RemoveRow(row);
+    ProductIds.erase(ProductIds.begin() + row);
 }
 
 void UpdateListRow(int column, const QString& text) {
@@ -46,12 +58,12 @@ void MarkListRow(int row, int status) {
     FeaturedCount += int(isFeatured) - int(wasFeatured);
 }
 
-void ResetProductList() {
+void CountFeaturedDeleted() {
+    --FeaturedCount;
+}
+
+void ResetListRows() {
     ProductIds.clear();
-    CurrentListSQL.clear();
-    SelectedRef.clear();
-    SortColumn = 0;
-    SortDescending = false;
     FeaturedCount = 0;
     NewProductPending = false;
 }

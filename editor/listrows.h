@@ -1,23 +1,27 @@
-// The rows of the product list and the state that goes with them, below everything that fills or
-// follows the list. Owns that state; productlist and the commands change it as they fill the list.
+// The rows of the product list and what is known of them, below everything that fills or follows
+// the list. Owns ProductIds, FeaturedCount and NewProductPending.
 #pragma once
+
+#include "forms/productlistmodel.h"
 
 #include <QString>
 #include <vector>
 
 extern std::vector<int> ProductIds; // ProductId of each row, in row order
+extern int FeaturedCount;           // listed products "En Portada"
+extern bool NewProductPending;      // a new product has not found its place in the list yet
 
-// The list's statement with filter and order; empty before the first fill.
-extern QString CurrentListSQL;
+// All rows anew, with the ProductId of each; none is selected.
+void SetListRows(std::vector<int> ids, std::vector<ProductRow> rows);
 
-extern QString SelectedRef;    // reference of the row selected before a refresh
-extern int SortColumn;         // 0 reference, 1 description, 2 price; 0 at start
-extern bool SortDescending;    // false at start
-extern int FeaturedCount;      // listed products "En Portada"
-extern bool NewProductPending; // a new product has not found its place in the list yet
-
-// Appends the row of a product just created and selects it.
+// Appends the row of a product just created and selects it; it is pending from now on.
 void AppendNewProductRow();
+
+// The pending product goes to its place or away.
+void SettleNewProduct();
+
+// Takes a row out. FeaturedCount stays until CountFeaturedDeleted or the next fill.
+void RemoveListRow(int row);
 
 // Writes one cell of the selected row if it differs.
 void UpdateListRow(int column, const QString& text);
@@ -26,8 +30,11 @@ void UpdateListRow(int column, const QString& text);
 // remembers.
 void MarkListRow(int row, int status);
 
-// All of the state as at start: for another catalogue in place of this one.
-void ResetProductList();
+// A featured product was deleted from the store.
+void CountFeaturedDeleted();
+
+// No rows, as at start.
+void ResetListRows();
 
 int ListRowCount();
 int SelectedRow(); // from 0; -1 when the list is empty

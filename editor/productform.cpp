@@ -12,6 +12,7 @@
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "store/formstate.h"
+#include "store/openrecord.h"
 #include "store/productref.h"
 #include "store/products.h"
 #include "store/store.h"
@@ -21,16 +22,7 @@ namespace {
 
 constexpr double kPesetasPerEuro = 166.386; // fixed by law, no setting
 
-constexpr char16_t kPriceShown[] = u"#,##0.00";
 constexpr char16_t kPriceTyped[] = u"0.00";
-constexpr char16_t kPriceListed[] = u"#,##0";
-
-constexpr int kMessageLimit = 14;
-constexpr int kMessageReplace = 15;
-
-constexpr int kListRef = 0; // columns of the list
-constexpr int kListShortDesc = 1;
-constexpr int kListPrice = 2;
 
 bool IsEdit() {
     return !FillingForm && ListRowCount() > 0;
@@ -38,13 +30,13 @@ bool IsEdit() {
 
 void ShortDesc_Change() {
     if (IsEdit() && UICurrentLang == DefaultLang) {
-        UpdateListRow(kListShortDesc, ControlText(frmMain->txtMLFields[0]));
+        UpdateListRow(kColumnShortDesc, ControlText(frmMain->txtMLFields[kTextTitle]));
     }
 }
 
 void txtProductRef_Change() {
     if (IsEdit()) {
-        UpdateListRow(kListRef, UppercaseRef());
+        UpdateListRow(kColumnRef, UppercaseRef());
     }
 }
 
@@ -67,7 +59,7 @@ void txtPriceAmount_Change() {
             return;
         }
         if (IsNumeric(box->text())) {
-            UpdateListRow(kListPrice, FormatNumber(ParseNumber(box->text()), kPriceListed));
+            UpdateListRow(kColumnPrice, FormatNumber(ParseNumber(box->text()), kPriceListed));
         }
     }
     ShowPesetas();
@@ -98,8 +90,8 @@ void txtPriceAmount_Validate(bool& cancel) {
 // The design's limit is reached: may the oldest featured product give way?
 bool MayReplaceOldest() {
     const QString text = "La Plantilla de Diseño Web actual no permite más de " +
-                         QString::number(TemplMaxEmph) + Messages[kMessageLimit] + "\n\n" +
-                         Messages[kMessageReplace];
+                         QString::number(TemplMaxEmph) + Messages[kMessageFeaturedLimit] + "\n\n" +
+                         Messages[kMessageReplaceOldest];
     return MsgBox(text, BoxIcon::Information, BoxButtons::YesNo, BoxAnswer::Yes, AppName) ==
            BoxAnswer::Yes;
 }
@@ -168,7 +160,7 @@ QWidget* SlotControl(int slot) {
 
 void FocusSlot(int slot) {
     QWidget* control = SlotControl(slot);
-    (control != nullptr ? control : frmMain->txtMLFields[0])->setFocus();
+    (control != nullptr ? control : frmMain->txtMLFields[kTextTitle])->setFocus();
 }
 
 // Where Enter leads from a control; null where it does nothing.
@@ -177,8 +169,8 @@ void MoveOnFrom(QWidget* control) {
     if (group == u"txtFields" || group == u"cboFields" || group == u"chkFields") {
         FocusNextField(control->objectName().section(u'_', 1).toInt());
     } else if (control == frmMain->txtProductRef || control == frmMain->cboIsNew) {
-        frmMain->txtMLFields[0]->setFocus();
-    } else if (control == frmMain->txtMLFields[0]) {
+        frmMain->txtMLFields[kTextTitle]->setFocus();
+    } else if (control == frmMain->txtMLFields[kTextTitle]) {
         FocusSlot(0);
     } else if (control == frmMain->txtPriceAmount) {
         frmMain->cmdPictures->setFocus();
@@ -221,8 +213,8 @@ void ConnectSlots() {
 }
 
 void ConnectTexts() {
-    auto* title = qobject_cast<QLineEdit*>(frmMain->txtMLFields[0]);
-    auto* description = qobject_cast<QPlainTextEdit*>(frmMain->txtMLFields[1]);
+    auto* title = qobject_cast<QLineEdit*>(frmMain->txtMLFields[kTextTitle]);
+    auto* description = qobject_cast<QPlainTextEdit*>(frmMain->txtMLFields[kTextDescription]);
     QObject::connect(title, &QLineEdit::textEdited, frmMain, [title] { ProductEdited(title); });
     QObject::connect(title, &QLineEdit::textChanged, frmMain, ShortDesc_Change);
     QObject::connect(description, &QPlainTextEdit::textChanged, frmMain,
@@ -244,8 +236,8 @@ void ConnectRecordBoxes() {
 void ConnectEvents() {
     auto* events = new ControlEvents(frmMain);
     std::vector<QWidget*> controls = {frmMain->txtProductRef, frmMain->txtPriceAmount,
-                                      frmMain->cboIsNew, frmMain->txtMLFields[0],
-                                      frmMain->txtMLFields[1]};
+                                      frmMain->cboIsNew, frmMain->txtMLFields[kTextTitle],
+                                      frmMain->txtMLFields[kTextDescription]};
     controls.insert(controls.end(), frmMain->txtFields.begin(), frmMain->txtFields.end());
     controls.insert(controls.end(), frmMain->cboFields.begin(), frmMain->cboFields.end());
     controls.insert(controls.end(), frmMain->chkFields.begin(), frmMain->chkFields.end());
@@ -266,7 +258,7 @@ void ConnectEvents() {
 void FocusNextField(int index) {
     const bool last = index + 1 >= static_cast<int>(frmMain->txtFields.size());
     if (last) {
-        frmMain->txtMLFields[0]->setFocus();
+        frmMain->txtMLFields[kTextTitle]->setFocus();
     } else {
         FocusSlot(index + 1);
     }

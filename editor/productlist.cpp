@@ -15,6 +15,11 @@
 
 #include <QShortcut>
 
+QString CurrentListSQL;
+QString SelectedRef;
+int SortColumn = kColumnRef;
+bool SortDescending = false;
+
 namespace {
 
 // %1 is the default language: the list shows descriptions in it, whatever the editor shows.
@@ -27,12 +32,9 @@ constexpr char kProductCountStatement[] = "SELECT count(*) FROM Products";
 
 constexpr char kEndOfBase[] = "AND ml.FieldDefId=0)"; // a filter stands behind it
 constexpr char kOrderBy[] = "ORDER BY";
-constexpr std::array<const char*, 3> kSortNames = {"ProductRef", "FieldValue", "PriceAmount"};
-
-constexpr char16_t kListPrice[] = u"#,##0";
-
-constexpr int kMessageGone = 5;
-constexpr int kMessageGoneTitle = 6;
+// By ListColumn.
+constexpr std::array<const char*, kProductColumns> kSortNames = {"ProductRef", "FieldValue",
+                                                                 "PriceAmount"};
 
 ProductListModel& List() {
     return *frmMain->productList;
@@ -53,7 +55,7 @@ struct ListColumns {
 
 ProductRow RowOf(const Recordset& product, const ListColumns& columns, qint64 status) {
     return {{product.Text(columns.reference), product.Text(columns.shortDesc),
-             FormatNumber(CellNumber(product.Value(columns.price)), kListPrice)},
+             FormatNumber(CellNumber(product.Value(columns.price)), kPriceListed)},
             status == kStatusArchived,
             status == kStatusFeatured};
 }
@@ -92,11 +94,12 @@ void lstProductList_RowClick() {
     SaveBeforeLeaving();
     if (NewProductPending) {
         int position = 1;
-        NewProductPending = false;
+        SettleNewProduct();
         RefreshProductList(position, QString::number(ProductIds[clicked]), false);
-    } else if (frmMain->txtProductId->text() != List().Text(clicked, 0)) {
-        // The number is held against the reference, as it has always been: a product whose
-        // reference is the number of the one in the editor is not loaded by a click.
+    } else if (frmMain->txtProductId->text() != List().Text(clicked, kColumnRef)) {
+        // Number against reference, on purpose: a product that still has its number for a
+        // reference isn't read anew by a click on its own row. In return one whose reference is
+        // the number of the product in the editor isn't loaded by a click.
         LoadSelectedProduct();
     }
     RefreshButtons();
@@ -119,7 +122,7 @@ void lstProductList_Clicked() {
 void lstProductList_ColumnClick(int column) {
     QString noted;
     if (ListRowCount() > 0) {
-        noted = List().Text(SelectedRow(), 0);
+        noted = List().Text(SelectedRow(), kColumnRef);
         SaveBeforeLeaving();
     }
     SortDescending = column == SortColumn && !SortDescending;
@@ -142,7 +145,7 @@ void tmrListRefresh_Timer() {
     }
     RunQuery(kCursorScratch, kProductCountStatement);
     const auto count = CellInteger(adcData[kCursorScratch].Value(0));
-    if (count == ListRowCount() || frmMain->Button("Search")->isChecked()) {
+    if (count == ListRowCount() || frmMain->Button(kButtonSearch)->isChecked()) {
         return;
     }
     int position = 1;
@@ -171,13 +174,10 @@ void ReadRows(int& position, const QString& productId) {
     for (products.MoveFirst(); products.HasRow(); products.MoveNext()) {
         const qint64 status = CellInteger(products.Value(columns.status));
         ids.push_back(static_cast<int>(CellInteger(products.Value(columns.id))));
-        FeaturedCount += status == kStatusFeatured ? 1 : 0;
         rows.push_back(RowOf(products, columns, status));
         DoEvents();
     }
-    const FillingGuard filling;
-    ProductIds = std::move(ids);
-    List().SetRows(std::move(rows));
+    SetListRows(std::move(ids), std::move(rows));
     const int row = RowOfProduct(productId);
     position = row < 0 ? position : row + 1;
 }
@@ -232,9 +232,17 @@ void RestartProductList() {
     RefreshProductList();
 }
 
+void ResetProductList() {
+    ResetListRows();
+    CurrentListSQL.clear();
+    SelectedRef.clear();
+    SortColumn = kColumnRef;
+    SortDescending = false;
+}
+
 void ReleaseCurrent() {
     if (ListRowCount() > 0) {
-        SelectedRef = List().Text(SelectedRow(), 0);
+        SelectedRef = List().Text(SelectedRow(), kColumnRef);
         SaveCurrentProduct();
     }
 }
@@ -250,7 +258,6 @@ void RefreshProductList(int& position, QString productId, bool keepEditor) {
         }
         clear = productId.isEmpty() || productId != frmMain->txtProductId->text();
     }
-    FeaturedCount = 0;
     ReadRows(position, productId);
     CurrentListSQL = adcData[kCursorList].Source();
     ParkCursor(kCursorList); // the list on screen keeps no rows of the store
@@ -269,15 +276,11 @@ void RefreshProductList() {
 
 void RemoveFromList() {
     const int row = SelectedRow();
-    NewProductPending = false;
+    SettleNewProduct();
     if (row < 0) {
         return;
     }
-    {
-        const FillingGuard filling;
-        List().RemoveRow(row);
-        ProductIds.erase(ProductIds.begin() + row);
-    }
+    RemoveListRow(row);
     if (ListRowCount() > 0) {
         SelectRow(std::min(row, ListRowCount() - 1));
         LoadSelectedProduct();
@@ -316,6 +319,6 @@ void ConnectProductList() {
     auto* deleteKey =
         new QShortcut(QKeySequence(Qt::Key_Delete), list, nullptr, nullptr, Qt::WidgetShortcut);
     QObject::connect(deleteKey, &QShortcut::activated, frmMain,
-                     [] { frmMain->Button("Del")->trigger(); });
+                     [] { frmMain->Button(kButtonDel)->trigger(); });
     QObject::connect(frmMain->tmrListRefresh, &QTimer::timeout, frmMain, tmrListRefresh_Timer);
 }

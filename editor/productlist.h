@@ -1,10 +1,18 @@
 // The product list: filling, sorting, filtering and refreshing it, and keeping it in step with the
-// editor. The selected row is the product in the editor at all times. Writes the state in listrows.
+// editor. The selected row is the product in the editor at all times. Owns the list's statement,
+// its order and SelectedRef.
 #pragma once
 
 #include "editor/listrows.h"
 
 #include <QString>
+
+// The list's statement with filter and order; empty before the first fill.
+extern QString CurrentListSQL;
+
+extern QString SelectedRef; // reference of the row selected before a refresh
+extern int SortColumn;      // a ListColumn; kColumnRef at start
+extern bool SortDescending; // false at start
 
 inline constexpr int kListSelector = 2; // the list's number for SortProductList
 
@@ -25,6 +33,9 @@ void ChangeListLanguage(const QString& before, const QString& after);
 // Forgets search and order, so that the next fill begins with the base statement: for another
 // catalogue in place of this one.
 void RestartProductList();
+
+// List and order as at start, without filling anything.
+void ResetProductList();
 
 // Saves the open product and notes selection and sort, before the list is filled anew or the store
 // is closed.

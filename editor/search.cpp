@@ -6,6 +6,7 @@
 #include "forms/mainform.h"
 #include "forms/searchform.h"
 #include "platform/dialogs.h"
+#include "store/products.h"
 #include "store/store.h"
 #include "text/numbers.h"
 
@@ -17,8 +18,6 @@ constexpr char kZonesStatement[] = "SELECT DISTINCT SaleZone FROM Products ORDER
 // user is told.
 constexpr char kWordStatement[] = "SELECT DISTINCT ItemId FROM MultiLangFields WHERE "
                                   "TableName='Products' and FieldValue like '%%1%'";
-
-constexpr char16_t kPrice[] = u"#,##0";
 
 void FillZones(QListWidget* list) {
     RunQuery(kCursorScratch, kZonesStatement);
@@ -66,7 +65,7 @@ QString TextCondition(const QString& text) {
 
 // Rewrites the box as the number that it begins with; the condition is empty for nothing above 0.
 QString PriceCondition(QLineEdit* box, const QString& comparison) {
-    box->setText(FormatNumber(LeadingNumber(box->text()), kPrice));
+    box->setText(FormatNumber(LeadingNumber(box->text()), kPriceListed));
     const double price = ParseNumber(box->text());
     return price > 0 ? "PriceAmount " + comparison + " " + QString::number(price, 'f', 0)
                      : QString();
@@ -84,7 +83,7 @@ void cmdSearch_Click(SearchForm& form) {
     try {
         const QString condition = Condition(form);
         if (condition.isEmpty()) {
-            frmMain->Button("Search")->setChecked(false);
+            frmMain->Button(kButtonSearch)->setChecked(false);
         } else {
             FilterProductList(condition);
             RefreshProductList();

@@ -7,6 +7,10 @@
 
 #include <vector>
 
+// Places in the groups of the form.
+enum CompanyPicture { kPictureLogo = 0, kPictureOffices = 1, kPictureMap = 2 }; // of imgPicture
+enum CompanyPreview { kPreviewAboutUs = 0, kPreviewFindUs = 1 };                // of cmdPreview
+
 class CorpInfoForm : public Dialog, public Ui::CorpInfoForm {
     Q_OBJECT
 
@@ -22,7 +26,7 @@ public:
     std::vector<TabButton*> lblTab;
     std::vector<QToolButton*> imgTab;
     std::vector<QWidget*> fraMain;
-    std::vector<PictureBox*> imgPicture;    // 0 logo, 1 offices, 2 map; likewise
+    std::vector<PictureBox*> imgPicture;    // by CompanyPicture; likewise
     std::vector<QLineEdit*> txtPicturePath; // the hidden name of its file
     std::vector<QPushButton*> cmdBrowse;    // and its two buttons
     std::vector<QPushButton*> cmdDelete;

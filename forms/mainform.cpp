@@ -24,7 +24,7 @@ constexpr int kSuggestionGap = 4;    // between them, pixels
 // What the columns hold at their widest, apart from the one that takes the rest.
 constexpr char kWidestReference[] = "WWW-0000";
 constexpr char kWidestPrice[] = "99.999.999";
-constexpr int kStretchColumn = 1;
+constexpr int kStretchColumn = kColumnShortDesc;
 
 } // namespace
 
@@ -45,7 +45,7 @@ MainForm::MainForm()
     for (QLabel* picture : imgStep) {
         picture->setPixmap(imgToDoStep->pixmap());
     }
-    ShowTab(0);
+    ShowTab(kTabCatalogue);
     lstProductList->setFocus();
 }
 
@@ -72,7 +72,7 @@ void MainForm::AddListColumn(const QString& key, const QString& caption, int wid
     }
     const int asked = width * logicalDpiX() / (kTwipsPerPoint * kPointsPerInch);
     const int needed =
-        fontMetrics().horizontalAdvance(column == 0 ? kWidestReference : kWidestPrice) +
+        fontMetrics().horizontalAdvance(column == kColumnRef ? kWidestReference : kWidestPrice) +
         2 * fontMetrics().averageCharWidth();
     header->setSectionResizeMode(column, QHeaderView::Interactive);
     header->resizeSection(column, std::max(asked, needed));
@@ -154,14 +154,14 @@ void MainForm::GatherGroups() {
     mnuActionsGen = GatherGroup<QAction>(this, "mnuActionsGen");
     mnuConfig = GatherGroup<QAction>(this, "mnuConfig");
     mnuCorpInfo = GatherGroup<QAction>(this, "mnuCorpInfo");
-    mnuActions[1]->menuAction()->setVisible(false);
+    mnuActions[kTabPublish]->menuAction()->setVisible(false);
 }
 
 void MainForm::SetUpToolBar() {
-    for (const QString& key : {QString("Layout"), QString("Report")}) {
+    for (const QString& key : {QString(kButtonLayout), QString(kButtonReport)}) {
         auto* choices = new QMenu(this);
-        choices->addAction(ButtonMenu(key, "Print"));
-        choices->addAction(ButtonMenu(key, "Mail"));
+        choices->addAction(ButtonMenu(key, kButtonPrint));
+        choices->addAction(ButtonMenu(key, kButtonMail));
         Button(key)->setMenu(choices);
         auto* button = qobject_cast<QToolButton*>(tlbProducts->widgetForAction(Button(key)));
         button->setPopupMode(QToolButton::MenuButtonPopup);

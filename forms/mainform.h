@@ -12,6 +12,39 @@
 #include <QTimer>
 #include <vector>
 
+// Keys of the buttons of tlbProducts; kButtonPrint and kButtonMail are those of the drop-downs,
+// too.
+inline constexpr QLatin1StringView kButtonAdd("Add");
+inline constexpr QLatin1StringView kButtonDel("Del");
+inline constexpr QLatin1StringView kButtonSave("Save");
+inline constexpr QLatin1StringView kButtonPreview("Preview");
+inline constexpr QLatin1StringView kButtonLayout("Layout");
+inline constexpr QLatin1StringView kButtonReport("Report");
+inline constexpr QLatin1StringView kButtonPrint("Print");
+inline constexpr QLatin1StringView kButtonMail("Mail");
+inline constexpr QLatin1StringView kButtonImport("Import");
+inline constexpr QLatin1StringView kButtonSearch("Search");
+inline constexpr QLatin1StringView kButtonLoanCalc("LoanCalc");
+
+// Places in the groups of the form.
+enum MainTab { kTabCatalogue = 0, kTabPublish = 1 }; // of fraMain, mnuTabs, mnuActions
+enum MainText { kTextTitle = 0, kTextDescription = 1, kTextCategory = 2 }; // of txtMLFields
+enum ProductEntry { // of mnuActionsC; 7 is a line
+    kEntryAdd = 0,
+    kEntryDel = 1,
+    kEntryPreview = 2,
+    kEntryLayout = 3,
+    kEntryPrint = 4,
+    kEntryMail = 5,
+    kEntrySearch = 6,
+    kEntryPictures = 8,
+    kEntryInternalData = 9,
+    kEntryLoanCalc = 10 // does nothing: the button has the command
+};
+enum PublishEntry { kEntryUpdate = 0, kEntryDesign = 1, kEntryHosting = 2 }; // of mnuActionsGen
+enum PublishButton { kPublishUpdate = 0, kPublishCancel = 1 };               // of cmdUpdateWeb
+enum PublishExtent { kPublishChanged = 0, kPublishAll = 1 };                 // of optAllOrChanged
+
 class MainForm : public QMainWindow, public Ui::MainForm {
     Q_OBJECT
 
@@ -19,11 +52,11 @@ public:
     MainForm();
     ~MainForm() override;
 
-    // Button of tlbProducts by its key: Add, Del, Save, Preview, Layout, Report, Print, Mail,
-    // Import, Search or LoanCalc; null for any other.
+    // Button of tlbProducts by its key; null for a text that is none.
     QAction* Button(const QString& key) const;
 
-    // Entry of the drop-down of button `parentKey` (Layout, Report) by its key (Print, Mail).
+    // Entry of the drop-down of button `parentKey` (kButtonLayout, kButtonReport) by its key
+    // (kButtonPrint, kButtonMail).
     QAction* ButtonMenu(const QString& parentKey, const QString& key) const;
 
     // Adds a column to lstProductList. `width` is in twentieths of a point and gives way to what
@@ -48,7 +81,7 @@ public:
     std::vector<QLineEdit*> txtFields; // text box, which always holds the value,
     std::vector<QCheckBox*> chkFields; // and the two other views on the value
     std::vector<QComboBox*> cboFields;
-    std::vector<QWidget*> txtMLFields; // 0 line, 1 text, 2 line
+    std::vector<QWidget*> txtMLFields; // line, text, line
     std::vector<QLabel*> lblMLFields;  // 0 and 1
     std::vector<QToolButton*> optLang;
     std::vector<QToolButton*> lblLangScroll;

@@ -7,6 +7,13 @@
 
 #include <vector>
 
+// Keys of the buttons of tlbPicture.
+inline constexpr QLatin1StringView kPictureAdd("Add");
+inline constexpr QLatin1StringView kPictureDel("Del");
+inline constexpr QLatin1StringView kPictureChange("Change");
+inline constexpr QLatin1StringView kPictureMoveUp("MoveUp");
+inline constexpr QLatin1StringView kPictureMoveDn("MoveDn");
+
 class PicturesForm : public Dialog, public Ui::PicturesForm {
     Q_OBJECT
 
@@ -14,7 +21,7 @@ public:
     explicit PicturesForm(QWidget* parent);
     ~PicturesForm() override;
 
-    // Button of tlbPicture by its key: Add, Del, Change, MoveUp or MoveDn; null for any other.
+    // Button of tlbPicture by its key; null for a text that is none.
     QAction* Button(const QString& key) const;
 
     // Groups, by index.

@@ -7,7 +7,8 @@
 #include <array>
 #include <vector>
 
-inline constexpr int kProductColumns = 3;
+// Columns of the list, in the order in which they are added.
+enum ListColumn { kColumnRef = 0, kColumnShortDesc = 1, kColumnPrice = 2, kProductColumns = 3 };
 
 struct ProductRow {
     std::array<QString, kProductColumns> texts;

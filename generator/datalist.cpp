@@ -7,6 +7,7 @@
 #include "site/template.h"
 #include "site/transforms.h"
 #include "site/weblangs.h"
+#include "store/langvalues.h"
 #include "text/ansi.h"
 
 using namespace Qt::StringLiterals;
@@ -70,7 +71,8 @@ public:
                 LoadProductFields(sources, row.ProductId, WebLangs.first(), kListMarker, fields);
                 AddFields();
             }
-            LoadLangFields(sources, row.ProductId, u"Products"_s, WebLangs, texts);
+            LoadLangFields(sources, row.ProductId, TextTableName(TextTable::Products), WebLangs,
+                           texts);
             for (qsizetype lang = 0; lang < WebLangs.size(); ++lang) {
                 AddTexts(row.ProductId, lang);
             }

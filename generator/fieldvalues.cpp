@@ -25,7 +25,7 @@ void ReadFieldDefs(FieldSources& sources, Recordset& rows) {
     for (rows.MoveFirst(); rows.HasRow(); rows.MoveNext()) {
         FieldDef def;
         def.Id = rows.Integer(u"FieldDefId");
-        def.Type = rows.Text(u"Type");
+        def.Type = FieldTypeOf(rows.Text(u"Type"));
         def.Choices = rows.Text(u"Choices");
         def.Caption = rows.Text(u"Caption");
         def.Key = QString::number(def.Id);
@@ -73,11 +73,17 @@ FieldItem ReadFieldRow(FieldSources& sources, const QString& lang) {
     FieldDef& def = sources.Defs[*place];
     item.Key = def.Key;
     item.Tag = def.Tag;
-    if (def.Type == u"B") {
+    switch (def.Type) {
+    case FieldType::YesNo:
         item.Value = item.Value == u"1" ? u"%SI%"_s : u"%NO%"_s;
-    } else if (def.Type == u"O") {
+        break;
+    case FieldType::Options:
         item.Option = &def;
         item.RawValue = std::exchange(item.Value, OptionText(def, item.Value, lang));
+        break;
+    case FieldType::Text:
+    case FieldType::Internal:
+        break;
     }
     return item;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "site/tagtext.h"
+#include "store/fieldtypes.h"
 #include "store/snapshot.h"
 
 #include <QByteArray>
@@ -20,7 +21,7 @@ inline constexpr char16_t kFileKeyField[] = u"SHORTDESC";
 // A definition of a field, ready for many look-ups.
 struct FieldDef {
     qint64 Id = 0;
-    QString Type; // "B" yes/no, "O" option list, anything else text
+    FieldType Type = FieldType::Text;
     QString Choices;
     QString Caption;
     QString Key;
@@ -92,7 +93,7 @@ void LoadProductFields(FieldSources& sources, const QString& productId, const QS
 // A list that was loaded, without kLayoutMarker, in another language.
 void TranslateFields(FieldList& list, const QString& lang);
 
-// Every text defined for `tableName` ("Products", "Pictures" or "CorpInfo"), empty where the item
+// Every text defined for `tableName`, as TextTableName has it, empty where the item
 // has none: a list for each of `langs`, in their order.
 void LoadLangFields(FieldSources& sources, const QString& itemId, const QString& tableName,
                     const QStringList& langs, std::vector<FieldList>& lists);

@@ -18,6 +18,7 @@
 #include "site/transforms.h"
 #include "site/weblangs.h"
 #include "store/corpinfo.h"
+#include "store/langvalues.h"
 #include "store/taggedtext.h"
 #include "text/ansi.h"
 #include "text/dates.h"
@@ -96,7 +97,8 @@ void AddBlock(TagValues& values, const std::vector<Block>& blocks, qsizetype pla
 }
 
 void AddCompanyTexts(TagValues& values, FieldSources& sources, const QString& lang) {
-    for (const FieldItem& item : LoadLangFields(sources, u"0"_s, u"CorpInfo"_s, lang)) {
+    for (const FieldItem& item : LoadLangFields(sources, QLatin1StringView(kCorpItemId),
+                                                TextTableName(TextTable::CorpInfo), lang)) {
         AddTag(values, item.Tag, item.Value.isEmpty() ? u"-"_s : item.Value);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "site/outputs.h"
 #include "site/transforms.h"
+#include "store/langvalues.h"
 #include "text/ansi.h"
 
 using namespace Qt::StringLiterals;
@@ -60,7 +61,8 @@ QByteArray BuildPictureBlock(const PictureFrames& frames, const QString& product
     for (pictures.SetFilter({{u"ProductId", productId}}); pictures.HasRow(); pictures.MoveNext()) {
         const PictureRow row{pictures.Text(u"PictureId"), productId,
                              pictures.Text(u"ProdPictureId")};
-        const FieldList texts = LoadLangFields(sources, row.pictureId, u"Pictures"_s, lang);
+        const FieldList texts =
+            LoadLangFields(sources, row.pictureId, TextTableName(TextTable::Pictures), lang);
         if (!first) {
             text += ExpandPicture(frames.Middle, row, lang, texts);
         }

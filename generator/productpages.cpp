@@ -11,6 +11,7 @@
 #include "site/template.h"
 #include "site/transforms.h"
 #include "site/weblangs.h"
+#include "store/langvalues.h"
 #include "text/ansi.h"
 #include "text/dates.h"
 
@@ -107,7 +108,8 @@ void BuildPage(PagePass& pass, const SiteProduct& row, qsizetype place) {
 }
 
 void BuildPages(PagePass& pass, const SiteProduct& row) {
-    LoadLangFields(pass.sources, row.ProductId, u"Products"_s, WebLangs, pass.texts);
+    LoadLangFields(pass.sources, row.ProductId, TextTableName(TextTable::Products), WebLangs,
+                   pass.texts);
     for (qsizetype place = 0; place < WebLangs.size(); ++place) {
         if (place > 0 && pass.marker != kLayoutMarker) {
             TranslateFields(pass.fields, WebLangs[place]);

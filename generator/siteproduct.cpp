@@ -1,5 +1,6 @@
 #include "generator/siteproduct.h"
 
+#include "store/langvalues.h"
 #include "text/ansi.h"
 #include "text/numbers.h"
 
@@ -62,7 +63,8 @@ QByteArray ExpandListRow(const TagText& middle, const SiteProduct& row, const QS
     ReplaceProductTags(text, row);
     LoadProductFields(sources, row.ProductId, lang, 0, list);
     ReplaceFields(text, list, EmptyShows::Nothing);
-    ReplaceProductTexts(text, LoadLangFields(sources, row.ProductId, u"Products"_s, lang));
+    ReplaceProductTexts(
+        text, LoadLangFields(sources, row.ProductId, TextTableName(TextTable::Products), lang));
     text.ReplaceBy("%%MAINPICTUREID%%",
                    [&] { return ToAnsi(MainPictureId(row.ProductId, pictures)); });
     return text.Text();

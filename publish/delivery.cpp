@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int kStorageFTP = 1;
-
 bool SendByFTP() {
     SetOverallProgress(4);
     const bool sent = SendFiles(OutputFiles);

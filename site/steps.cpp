@@ -12,8 +12,6 @@ int StepIndex = 0;
 
 namespace {
 
-constexpr int kStorageFTP = 1;
-
 // Estimates below this part of the whole are too wild to show, percent.
 constexpr double kFirstPercent = 5;
 // A long estimate counts down between two measurements of this distance, seconds.

@@ -38,7 +38,7 @@ LanguageWords PairWords(const QString& lang, const QList<QByteArray>& tags,
 } // namespace
 
 void ResetWebLangs() {
-    WebLangs = SplitFields(UserLangs, u"|"_s);
+    WebLangs = SplitFields(UserLangs, QChar(kLanguageSeparator));
     languageTable.clear();
 }
 
@@ -47,7 +47,8 @@ void LoadLanguageStrings() {
     if (section == kNoSection) {
         return;
     }
-    const QStringList languages = SplitFields(TrimBlanks(TemplateSections[section].Name), u"|"_s);
+    const QStringList languages =
+        SplitFields(TrimBlanks(TemplateSections[section].Name), QChar(kLanguageSeparator));
     const QList<QByteArray> lists = SectionBodies[section].split('|');
     const QList<QByteArray> tags = lists.first().split('#');
     for (qsizetype place = 0; place < languages.size() && place + 1 < lists.size(); ++place) {

@@ -6,6 +6,11 @@
 
 inline constexpr int kRegisterLines = 7; // lines of mercantile-register data
 
+// Names of the company's pictures in the store's folder, as stored.
+inline constexpr char kCorpLogoFile[] = "CorpLogo.dat";
+inline constexpr char kExtraPictureFile[] = "ExtraImage.dat";
+inline constexpr char kFindUsMapFile[] = "FindUsMap.dat";
+
 struct CorpInfoRecord {
     QString Name, CIF, Phone, Fax, Cellular, Address, PostalCode, Zone;
     QString CorpLogo;     // bare file name in the store's folder, or empty

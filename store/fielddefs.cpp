@@ -12,14 +12,12 @@ int MaxFieldDefId = 0;
 
 namespace {
 
-constexpr char kPublicCountStatement[] = "SELECT count(*) FROM ProductFieldDef WHERE Type<>'I'";
+// %1 is a condition of fieldtypes.h.
+constexpr char kCountStatement[] = "SELECT count(*) FROM ProductFieldDef WHERE %1";
 constexpr char kFieldDefsStatement[] = "SELECT * FROM ProductFieldDef ORDER BY FieldDefId";
 
 // The form itself is always labelled in Spanish, whatever language is being edited.
 constexpr char kFormLanguage[] = "ES";
-
-constexpr int kMenuInternalData = 9; // entries of the actions menu
-constexpr int kMenuLoanCalc = 10;
 
 int SlotCount() {
     return static_cast<int>(frmMain->txtFields.size());
@@ -50,14 +48,18 @@ void FillChoices(int slot, const QString& choices) {
 }
 
 void DressPublicSlot(int slot, const Recordset& row) {
-    const QString type = row.Text(u"Type");
-    if (type == u"B") {
+    switch (FieldTypeOf(row.Text(u"Type"))) {
+    case FieldType::YesNo:
         ShowSlotAs(slot, frmMain->chkFields[slot]);
-    } else if (type == u"O") {
+        break;
+    case FieldType::Options:
         ShowSlotAs(slot, frmMain->cboFields[slot]);
         FillChoices(slot, row.Text(u"Choices"));
-    } else {
+        break;
+    case FieldType::Text:
+    case FieldType::Internal: // before public ones in a catalogue: their slot is one of the first
         ShowSlotAs(slot, frmMain->txtFields[slot]);
+        break;
     }
     const QString caption = TaggedText(row.Text(u"Caption"), kFormLanguage, 0);
     const QString tip = row.Text(u"ToolTipText");
@@ -108,18 +110,17 @@ void ShowFlavourCommands() {
     // Strictly greater: a catalogue with just one internal field keeps the button hidden.
     const bool internalData = !IsGenericFlavour() && MaxFieldDefId > FirstHiddenField;
     frmMain->cmdInternalData->setVisible(internalData);
-    frmMain->mnuActionsC[kMenuInternalData]->setVisible(internalData);
+    frmMain->mnuActionsC[kEntryInternalData]->setVisible(internalData);
 
     const bool loans = AppBrand == u"ZAND" && (AppSector == u"INMO" || AppSector == u"AUTO");
-    frmMain->Button("LoanCalc")->setVisible(loans);
-    frmMain->mnuActionsC[kMenuLoanCalc]->setVisible(loans);
+    frmMain->Button(kButtonLoanCalc)->setVisible(loans);
+    frmMain->mnuActionsC[kEntryLoanCalc]->setVisible(loans);
 }
 
 } // namespace
 
 void LoadFieldDefs() {
-    RunQuery(kCursorScratch, kPublicCountStatement);
-    FirstHiddenField = static_cast<int>(CellInteger(adcData[kCursorScratch].Value(0)));
+    CountPublicFields();
     MaxFieldDefId = 0;
 
     const int rows = DressSlots();
@@ -132,14 +133,19 @@ void LoadFieldDefs() {
     ShowFlavourCommands();
 }
 
+void CountPublicFields() {
+    RunQuery(kCursorScratch, QString(kCountStatement).replace("%1", kPublicFields));
+    FirstHiddenField = static_cast<int>(CellInteger(adcData[kCursorScratch].Value(0)));
+}
+
 void DisableUnusedFields() {
     for (int slot = MaxFieldDefId + 1; slot < SlotCount(); ++slot) {
         frmMain->txtFields[slot]->setEnabled(false);
     }
 }
 
-QString SlotType(int slot) {
-    return Tag(frmMain->txtFields[slot]).section(u'|', 0, 0);
+FieldType SlotType(int slot) {
+    return FieldTypeOf(Tag(frmMain->txtFields[slot]).section(u'|', 0, 0));
 }
 
 QString SlotDefault(int slot) {

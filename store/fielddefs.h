@@ -3,6 +3,8 @@
 // on.
 #pragma once
 
+#include "store/fieldtypes.h"
+
 #include <QString>
 
 extern int
@@ -12,9 +14,12 @@ extern int MaxFieldDefId; // highest FieldDefId read; 0 at start
 // Once per opening of the store, before the first product is shown; through cursor 1.
 void LoadFieldDefs();
 
+// Sets FirstHiddenField alone, through cursor 1.
+void CountPublicFields();
+
 // Disables the boxes that no field has, where something has enabled all of the form's controls.
 void DisableUnusedFields();
 
-// The two parts of a slot's tag: the field's Type and the value of a new product.
-QString SlotType(int slot);
+// The two parts of a slot's tag: the field's Type as stored and the value of a new product.
+FieldType SlotType(int slot);
 QString SlotDefault(int slot);

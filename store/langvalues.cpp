@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "platform/events.h"
 #include "store/formstate.h"
+#include "store/openrecord.h"
 #include "store/store.h"
 
 namespace {
@@ -15,52 +16,51 @@ namespace {
 constexpr char kTextsStatement[] = "SELECT * FROM MultiLangFields WHERE TableName='%1' AND "
                                    "ItemId='%2' AND LangCode='%3' ORDER BY FieldDefId";
 
-constexpr char kProducts[] = "Products";
-constexpr char kPictures[] = "Pictures";
-constexpr char kCorpInfo[] = "CorpInfo";
-
-// The last save of the set on screen failed: its rows in the cursor are as the boxes, those in the
-// store aren't. False again once it is saved or another set selected.
-bool saveFailed = false;
-
 Recordset& Rows() {
     return adcData[kCursorTexts];
 }
 
-void SelectTexts(const QString& tableName, const QString& itemId, const QString& langCode) {
-    saveFailed = false;
+void SelectTexts(TextTable table, const QString& itemId, const QString& langCode) {
+    ForgetFailedSave(SavedPart::Texts);
     RunQuery(kCursorTexts, QString(kTextsStatement)
-                               .replace("%1", tableName)
+                               .replace("%1", TextTableName(table))
                                .replace("%2", itemId)
                                .replace("%3", langCode));
 }
 
 // Boxes of the screen that shows a table's texts; none where the screen isn't open.
-std::vector<QWidget*> BoxesOf(const QString& tableName) {
-    if (tableName == kProducts) {
+std::vector<QWidget*> BoxesOf(TextTable table) {
+    switch (table) {
+    case TextTable::Products:
         return frmMain->txtMLFields;
-    }
-    if (tableName == kPictures) {
+    case TextTable::Pictures:
         return frmPictures != nullptr ? frmPictures->txtMLFields : std::vector<QWidget*>();
+    case TextTable::CorpInfo:
+        return frmCorpInfo != nullptr ? frmCorpInfo->txtMLFields : std::vector<QWidget*>();
     }
-    return frmCorpInfo != nullptr ? frmCorpInfo->txtMLFields : std::vector<QWidget*>();
+    return {};
 }
 
-int TextCountOf(const QString& tableName) {
-    if (tableName == kProducts) {
+int TextCountOf(TextTable table) {
+    switch (table) {
+    case TextTable::Products:
         return kProductTexts;
+    case TextTable::Pictures:
+        return kPictureTexts;
+    case TextTable::CorpInfo:
+        return kCorpTexts;
     }
-    return tableName == kPictures ? kPictureTexts : kCorpTexts;
+    return 0;
 }
 
-void LoadTexts(const QString& tableName, const QString& itemId) {
+void LoadTexts(TextTable table, const QString& itemId) {
     const FillingGuard filling;
-    SelectTexts(tableName, itemId, UICurrentLang);
+    SelectTexts(table, itemId, UICurrentLang);
     if (Rows().RecordCount() == 0) {
-        CreateLangRows(tableName, itemId, UICurrentLang);
+        CreateLangRows(table, itemId, UICurrentLang);
         return;
     }
-    for (QWidget* box : BoxesOf(tableName)) {
+    for (QWidget* box : BoxesOf(table)) {
         if (!Rows().HasRow()) {
             break;
         }
@@ -73,7 +73,7 @@ void SaveTexts(const std::vector<QWidget*>& boxes) {
     if (Rows().RecordCount() == 0) {
         return;
     }
-    saveFailed = true; // until the rows are written
+    SaveUnderWay save(SavedPart::Texts);
     Rows().MoveFirst();
     for (const QWidget* box : boxes) {
         if (!Rows().HasRow()) {
@@ -86,52 +86,58 @@ void SaveTexts(const std::vector<QWidget*>& boxes) {
     Rows().MoveFirst();
     Rows().Update();
     WaitForCursor(Rows());
-    saveFailed = false;
+    save.Written();
 }
 
 } // namespace
+
+const QString& TextTableName(TextTable table) {
+    static const std::array kNames = {QStringLiteral("Products"), QStringLiteral("Pictures"),
+                                      QStringLiteral("CorpInfo")};
+    return kNames.at(static_cast<std::size_t>(table));
+}
 
 void LoadProductLangValues() {
     // A cleared form has no item whose rows could be made.
     const QString productId = frmMain->txtProductId->text();
     if (frmMain->lstProductList->model()->rowCount() > 0 && !productId.isEmpty()) {
-        LoadTexts(kProducts, productId);
+        LoadTexts(TextTable::Products, productId);
     }
 }
 
 void LoadPictureLangValues() {
     if (adcData[kCursorPictures].RecordCount() > 0) {
-        LoadTexts(kPictures, frmPictures->txtPictureId->text());
+        LoadTexts(TextTable::Pictures, frmPictures->txtPictureId->text());
     }
 }
 
 void LoadCorpLangValues() {
-    LoadTexts(kCorpInfo, kCorpItemId);
+    LoadTexts(TextTable::CorpInfo, kCorpItemId);
 }
 
 void SaveProductLangValues() {
-    SaveTexts(BoxesOf(kProducts));
+    SaveTexts(BoxesOf(TextTable::Products));
 }
 
 void SavePictureLangValues() {
-    SaveTexts(BoxesOf(kPictures));
+    SaveTexts(BoxesOf(TextTable::Pictures));
 }
 
 void SaveCorpLangValues() {
-    SaveTexts(BoxesOf(kCorpInfo));
+    SaveTexts(BoxesOf(TextTable::CorpInfo));
 }
 
-void CreateLangRows(const QString& tableName, const QString& itemId, const QString& langCode) {
+void CreateLangRows(TextTable table, const QString& itemId, const QString& langCode) {
     const FillingGuard filling;
-    SelectTexts(tableName, itemId, langCode);
+    SelectTexts(table, itemId, langCode);
     while (Rows().RecordCount() > 0) { // left behind by an item that had this number before
         Rows().MoveFirst();
         Rows().Delete();
     }
-    const std::vector<QWidget*> boxes = BoxesOf(tableName);
-    for (int text = 0; text < TextCountOf(tableName); ++text) {
+    const std::vector<QWidget*> boxes = BoxesOf(table);
+    for (int text = 0; text < TextCountOf(table); ++text) {
         Rows().AddNew();
-        Rows().Set(u"TableName", tableName);
+        Rows().Set(u"TableName", TextTableName(table));
         Rows().Set(u"ItemId", itemId);
         Rows().Set(u"LangCode", langCode);
         Rows().Set(u"FieldDefId", qint64{text});
@@ -145,7 +151,7 @@ void CreateLangRows(const QString& tableName, const QString& itemId, const QStri
 }
 
 void SaveProductLangIfChanged() {
-    if (!frmMain->fraReadOnly->isHidden()) {
+    if (ProductIsReadOnly()) {
         return;
     }
     const InputHold hold;
@@ -158,8 +164,11 @@ void SaveProductLangIfChanged() {
 }
 
 bool LangValuesDiffer(const std::vector<QWidget*>& boxes) {
-    if (saveFailed || !Rows().IsOpen()) {
-        return saveFailed;
+    if (LastSaveFailed(SavedPart::Texts)) {
+        return true;
+    }
+    if (!Rows().IsOpen()) {
+        return false;
     }
     Rows().MoveFirst();
     for (const QWidget* box : boxes) {

@@ -11,8 +11,11 @@
 
 class QWidget;
 
-// Tables with texts; the number of texts each has per language is fixed here and agrees with
-// MultiLangFieldDef.
+// Tables with texts. Their names are stored; the number of texts each has per language is fixed
+// here and agrees with MultiLangFieldDef.
+enum class TextTable { Products, Pictures, CorpInfo };
+const QString& TextTableName(TextTable table);
+
 inline constexpr int kProductTexts = 3; // title, long description, category or zone
 inline constexpr int kPictureTexts = 2; // title, comments
 inline constexpr int kCorpTexts = 4;
@@ -29,9 +32,8 @@ void SaveProductLangValues();
 void SavePictureLangValues();
 void SaveCorpLangValues();
 
-// Creates a complete, empty set on cursor 5 and empties the boxes. `tableName` is "Products",
-// "Pictures" or "CorpInfo". Not committed here.
-void CreateLangRows(const QString& tableName, const QString& itemId, const QString& langCode);
+// Creates a complete, empty set on cursor 5 and empties the boxes. Not committed here.
+void CreateLangRows(TextTable table, const QString& itemId, const QString& langCode);
 
 // Saves the product's texts and stamps it if a box differs from its row; nothing while read-only.
 // Without a difference only rows that are new are written.

@@ -11,6 +11,7 @@
 #include "platform/events.h"
 #include "platform/fileops.h"
 #include "store/langvalues.h"
+#include "store/openrecord.h"
 #include "store/store.h"
 #include "text/dates.h"
 #include "text/numbers.h"
@@ -29,21 +30,11 @@ constexpr char kTextsStatement[] =
 
 constexpr int kPicturesPerProduct = 100; // numbers that a product's pictures share
 
-constexpr int kMessageCountOfPictures = 0;
-constexpr int kMessageLimit = 7;
-
 // Of the last picture chosen; empty when the album closes.
 QString lastPicFolder;
 
-// The last save of the current picture failed, so that a comparison would find nothing to save.
-bool saveFailed = false;
-
 Recordset& Rows() {
     return adcData[kCursorPictures];
-}
-
-bool ReadOnly() {
-    return !frmMain->fraReadOnly->isHidden();
 }
 
 qint64 NumberIn(const QLineEdit* box) {
@@ -52,7 +43,7 @@ qint64 NumberIn(const QLineEdit* box) {
 
 void TellLimit() {
     MsgBox("No se pueden incluir más de " + QString::number(PictureLimit()) +
-               Messages[kMessageLimit],
+               Messages[kMessagePictureLimit],
            BoxIcon::Warning, "Añadir Fotografía");
 }
 
@@ -89,7 +80,7 @@ void NumberNewRow() {
 void CommitNewRow() {
     Rows().Set(u"PicturePath", frmPictures->txtPicturePath->text());
     Rows().Set(u"LastUpdate", StoredDate(frmPictures->txtLastUpdate->text()));
-    CreateLangRows("Pictures", frmPictures->txtPictureId->text(), UICurrentLang);
+    CreateLangRows(TextTable::Pictures, frmPictures->txtPictureId->text(), UICurrentLang);
     Rows().Update();
     WaitForCursor(Rows());
 }
@@ -157,7 +148,7 @@ void DeleteRow(const QString& productId, const QString& pictureId, qint64 order)
 } // namespace
 
 void LoadPictures() {
-    saveFailed = false;
+    ForgetFailedSave(SavedPart::Picture);
     const double productId = LeadingNumber(frmMain->txtProductId->text());
     RunQuery(kCursorPictures,
              QString(kPicturesStatement).replace("%1", QString::number(productId, 'f', 0)));
@@ -167,12 +158,12 @@ void LoadPictures() {
 void ShowPictureCount() {
     const int count = Rows().RecordCount();
     frmMain->txtPicture->setText(
-        QString(Messages[kMessageCountOfPictures]).replace("%1", QString::number(count)));
+        QString(Messages[kMessagePictureCount]).replace("%1", QString::number(count)));
     frmMain->txtPicture->setCursorPosition(0); // a narrow box shows the beginning
 }
 
 void ShowPictureRecord() {
-    saveFailed = false;
+    ForgetFailedSave(SavedPart::Picture);
     if (!Rows().HasRow()) {
         ClearPictureBoxes();
         return;
@@ -198,20 +189,21 @@ void ClearPictureBoxes() {
 }
 
 void SavePictureIfChanged() {
-    if (ReadOnly() || !Rows().HasRow() || frmPictures->txtOrderInForm->text().isEmpty()) {
+    if (ProductIsReadOnly() || !Rows().HasRow() || frmPictures->txtOrderInForm->text().isEmpty()) {
         return;
     }
-    if (saveFailed || LangValuesDiffer(frmPictures->txtMLFields) || RowDiffers()) {
+    if (LastSaveFailed(SavedPart::Picture) || LangValuesDiffer(frmPictures->txtMLFields) ||
+        RowDiffers()) {
         SavePicture();
     }
 }
 
 void SavePicture() {
-    if (ReadOnly()) {
+    if (ProductIsReadOnly()) {
         return;
     }
     const InputHold hold;
-    saveFailed = true; // until the texts are written, too
+    SaveUnderWay save(SavedPart::Picture); // with its texts
     Rows().Set(u"ProdPictureId", NumberIn(frmPictures->txtProdPictureId));
     Rows().Set(u"ProductId", NumberIn(frmPictures->txtProductId));
     Rows().Set(u"PictureId", NumberIn(frmPictures->txtPictureId));
@@ -222,7 +214,7 @@ void SavePicture() {
     Rows().Update();
     WaitForCursor(Rows());
     SavePictureLangValues();
-    saveFailed = false;
+    save.Written();
 }
 
 PictureResult AddPicture(const QString& path) {

@@ -17,8 +17,6 @@ constexpr char16_t kAllowed[] = u"1234567890ABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
 constexpr char kSameRefStatement[] =
     "SELECT count(*) FROM Products WHERE ProductRef = '%1' AND ProductId <> %2";
 
-constexpr int kMessageUnique = 16;
-
 RefFault FaultOf(const QString& reference) {
     if (reference.size() > kRefLength) {
         return RefFault::TooLong;
@@ -58,7 +56,7 @@ QString Complaint() {
     }
     if (!IsRefUnique()) {
         return "Ya existe un registro con la Referencia " + reference + "\n\n" +
-               Messages[kMessageUnique];
+               Messages[kMessageRefNeeded];
     }
     return {};
 }

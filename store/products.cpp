@@ -10,6 +10,7 @@
 #include "store/fielddefs.h"
 #include "store/formstate.h"
 #include "store/langvalues.h"
+#include "store/openrecord.h"
 #include "store/picturerecords.h"
 #include "store/productref.h"
 #include "store/store.h"
@@ -33,12 +34,6 @@ constexpr char kOldestFeaturedStatement[] =
     "SELECT top 1 ProductId, IsNew, LastUpdate FROM Products WHERE IsNew = 1 ORDER BY LastUpdate";
 
 constexpr char kCurrency[] = "EUR"; // the only one in this system
-constexpr char16_t kFormPrice[] = u"#,##0.00";
-
-// A save of the product on screen failed half way: the cursors hold what the boxes hold, but the
-// store doesn't, so a comparison would find nothing to save. False once the product is saved or
-// another one opened.
-bool saveFailed = false;
 
 Recordset& Product() {
     return adcData[kCursorProduct];
@@ -52,17 +47,17 @@ Recordset& Fields() {
 // the lock or fails, and changes nothing.
 ProductState OpenRow(const QString& productId) {
     RunQuery(kCursorProduct, QString(kProductStatement).replace("%1", productId));
-    saveFailed = false;
+    ForgetFailedSave(SavedPart::Product);
     try {
         Product().Set(u"PriceCurrency", QString(kCurrency));
     } catch (const StoreError& error) {
         if (error.number == kErrNoCurrentRow) {
             return ProductState::Gone;
         }
-        frmMain->fraReadOnly->show();
+        SetProductReadOnly(true);
         return ProductState::ReadOnly;
     }
-    frmMain->fraReadOnly->hide();
+    SetProductReadOnly(false);
     return ProductState::Held;
 }
 
@@ -71,7 +66,7 @@ void FillProductBoxes() {
     frmMain->txtProductId->setText(row.Text(u"ProductId"));
     frmMain->txtProductRef->setText(row.Text(u"ProductRef"));
     frmMain->txtZone->setText(row.Text(u"SaleZone"));
-    frmMain->txtPriceAmount->setText(FormatNumber(row.Number(u"PriceAmount"), kFormPrice));
+    frmMain->txtPriceAmount->setText(FormatNumber(row.Number(u"PriceAmount"), kPriceShown));
     frmMain->txtPriceCurrency->setText(row.Text(u"PriceCurrency"));
     frmMain->txtLastUpdate->setText(ShownDate(row.Text(u"LastUpdate")));
     const auto status = static_cast<int>(row.Integer(u"IsNew"));
@@ -81,11 +76,16 @@ void FillProductBoxes() {
 
 void ShowFieldValue(int slot, const QString& value) {
     frmMain->txtFields[slot]->setText(value);
-    const QString type = SlotType(slot);
-    if (type == u"B") {
+    switch (SlotType(slot)) {
+    case FieldType::YesNo:
         frmMain->chkFields[slot]->setChecked(LeadingInteger(value) != 0);
-    } else if (type == u"O") {
+        break;
+    case FieldType::Options:
         frmMain->cboFields[slot]->setCurrentIndex(IsNumeric(value) ? LeadingInteger(value) : -1);
+        break;
+    case FieldType::Text:
+    case FieldType::Internal:
+        break;
     }
 }
 
@@ -227,8 +227,8 @@ void AddFieldRows(const QString& productId) {
     }
 }
 
-// The row and its fields, without whatever an older program has left behind under this number: it
-// would appear as the new product's.
+// The row and its fields, without rows that a deleted product of this number has left in the
+// catalogue: they would appear as the new product's.
 void CreateRows(const QString& productId) {
     ParkCursor(kCursorProduct); // lets the product before go
     Product().AddNew();
@@ -286,19 +286,19 @@ ProductState ReopenProduct() {
 void AddProduct() {
     const FillingGuard filling;
     const InputHold hold;
-    saveFailed = false;
+    ForgetFailedSave(SavedPart::Product);
     RunQuery(kCursorScratch, kNextIdStatement);
     const Cell& next = adcData[kCursorScratch].Value(0);
     const QString productId = IsNull(next) ? QString::number(kFirstProductId) : CellText(next);
     frmMain->txtProductId->setText(productId);
     frmMain->txtProductRef->setText(FreeProductRef(productId));
-    frmMain->txtPriceAmount->setText(FormatNumber(0, kFormPrice));
+    frmMain->txtPriceAmount->setText(FormatNumber(0, kPriceShown));
     frmMain->txtPriceCurrency->setText(kCurrency);
     frmMain->cboIsNew->setCurrentIndex(kStatusPublished);
     SetTag(frmMain->cboIsNew, QString::number(kStatusPublished));
 
     CreateRows(productId);
-    CreateLangRows("Products", productId, UICurrentLang);
+    CreateLangRows(TextTable::Products, productId, UICurrentLang);
     LoadPictures();
 }
 
@@ -307,7 +307,7 @@ void SaveProduct(bool internalOnly) {
         return;
     }
     const InputHold hold;
-    saveFailed = true; // until the last row is written
+    SaveUnderWay save(SavedPart::Product);
     WriteProductRow();
     SaveProductFields();
     SaveProductLangValues();
@@ -317,7 +317,7 @@ void SaveProduct(bool internalOnly) {
     Product().Set(u"LastUpdate", StoredDate(frmMain->txtLastUpdate->text()));
     Product().Update();
     WaitForCursor(Product());
-    saveFailed = false;
+    save.Written();
     ParkCursor(kCursorProduct);
 }
 
@@ -329,7 +329,7 @@ void SaveCurrentProduct() {
     if (!changes.open) {
         changes.open = LangValuesDiffer(frmMain->txtMLFields);
     }
-    if (saveFailed || changes.open || ProductRowDiffers()) {
+    if (LastSaveFailed(SavedPart::Product) || changes.open || ProductRowDiffers()) {
         SaveProduct(false);
     } else if (changes.internal) {
         SaveProduct(true);
@@ -338,7 +338,7 @@ void SaveCurrentProduct() {
 
 void DeleteProduct() {
     const InputHold hold;
-    saveFailed = false;
+    ForgetFailedSave(SavedPart::Product);
     OpenChildRows(frmMain->txtProductId->text());
     const QStringList files = PictureFiles();
     if (Product().HasRow() && !Product().IsNull(u"ProductId")) {
@@ -362,8 +362,4 @@ void DemoteOldestFeatured() {
         WaitForCursor(oldest);
     }
     ParkCursor(kCursorScratch);
-}
-
-bool ProductIsReadOnly() {
-    return !frmMain->fraReadOnly->isHidden();
 }

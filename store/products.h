@@ -14,6 +14,10 @@ enum ProductStatus { kStatusPublished = 0, kStatusFeatured = 1, kStatusArchived 
 
 inline constexpr int kFirstProductId = 10001;
 
+// Pictures of a price: in its box and in sums, and where only whole units show.
+inline constexpr char16_t kPriceShown[] = u"#,##0.00";
+inline constexpr char16_t kPriceListed[] = u"#,##0";
+
 enum class ProductState {
     Held,     // this user has the lock
     ReadOnly, // another user has it: viewable, every save is off
@@ -47,6 +51,3 @@ void DeleteProduct();
 // The featured product with the earliest LastUpdate becomes an ordinary one, stamped with now;
 // through cursor 1.
 void DemoteOldestFeatured();
-
-// Another user holds the product on screen.
-bool ProductIsReadOnly();

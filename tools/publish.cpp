@@ -5,6 +5,7 @@
 #include "app/startup.h"
 #include "app/workflow.h"
 #include "core/settings.h"
+#include "forms/mainform.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
 #include "platform/notify.h"
@@ -16,9 +17,6 @@
 #include <cstdio>
 
 namespace {
-
-constexpr int kButtonUpdate = 0;
-constexpr int kStorageFTP = 1;
 
 // Steps that bring the site to its destination; what follows them is the portal's.
 constexpr int kFolderSteps = 3;
@@ -84,7 +82,7 @@ int main(int argc, char** argv) {
     }
     SetUpSteps();
     ListenToPublish({.step = PrintStep});
-    cmdUpdateWeb_Click(kButtonUpdate);
+    cmdUpdateWeb_Click(kPublishUpdate);
     if (LastOutcome != PublishOutcome::Delivered || siteStepFailed) {
         PrintLine(stderr, "La web no se ha publicado: " + Destination());
         EndProcess(EXIT_FAILURE);

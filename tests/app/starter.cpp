@@ -28,7 +28,6 @@
 namespace {
 
 constexpr int kLookEvery = 5; // milliseconds
-constexpr int kPagePublish = 1;
 
 QStringList actions;
 QString lastSeen;
@@ -116,7 +115,7 @@ void Act(const QString& action) {
         TypeOver(frmMain->txtProductRef, text);
     } else if (TakeText(action, "publish", text)) {
         FTPControlPort = text.toInt();
-        SelectMainTab(kPagePublish);
+        SelectMainTab(kTabPublish);
         frmMain->cmdUpdateWeb[0]->click();
     } else if (action == "minimise") {
         frmMain->showMinimized();

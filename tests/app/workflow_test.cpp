@@ -27,10 +27,6 @@
 
 namespace {
 
-constexpr int kUpdate = 0;
-constexpr int kCancel = 1;
-constexpr int kPageCatalogue = 0;
-constexpr int kPagePublish = 1;
 constexpr char kLongAgo[] = "01/01/2020 00:00:00";
 constexpr char kPending[] = "P3|I10001";
 
@@ -74,7 +70,7 @@ protected:
         ConnectPublish();
         SetFTP("127.0.0.1", "/web", "ana", "clave");
         Begin();
-        SelectMainTab(kPagePublish);
+        SelectMainTab(kTabPublish);
         QObject::connect(&ineFTPSend(), &TransferClient::StateChanged, frmMain, [this] {
             if (whileSending && server.Record().Count("STOR") >= 2) {
                 Do(whileSending);
@@ -100,7 +96,7 @@ protected:
         server.Behave();
         server.ForgetCommands();
         Design().Write(program.Folder(), "Default.zdt");
-        SetStorage(1, {});
+        SetStorage(kStorageFTP, {});
         QFile::remove(program.Folder() + "md5control.txt");
         ResetControlFile();
         ClearOutputFiles();
@@ -116,7 +112,7 @@ protected:
         SetLastWebUpdate(lastUpdate);
         ClearDeletedItems();
         for (const QString& item : deleted.split(u'|', Qt::SkipEmptyParts)) {
-            AddDeletedItem(item.left(1), item.mid(1));
+            AddDeletedItem(DeletedItem(item[0].toLatin1()), item.mid(1));
         }
         SaveSettings();
     }
@@ -132,8 +128,8 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([] { return !ineFTPSend().StillExecuting(); }));
     }
 
-    static void Publish() { Click(frmMain->cmdUpdateWeb[kUpdate]); }
-    static void Cancel() { Click(frmMain->cmdUpdateWeb[kCancel]); }
+    static void Publish() { Click(frmMain->cmdUpdateWeb[kPublishUpdate]); }
+    static void Cancel() { Click(frmMain->cmdUpdateWeb[kPublishCancel]); }
 
     std::string Boxes() const {
         QStringList texts;
@@ -193,9 +189,9 @@ protected:
     }
 
     static void ExpectIdle() {
-        EXPECT_TRUE(frmMain->cmdUpdateWeb[kUpdate]->isVisible());
-        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kUpdate]);
-        EXPECT_FALSE(frmMain->cmdUpdateWeb[kCancel]->isVisible());
+        EXPECT_TRUE(frmMain->cmdUpdateWeb[kPublishUpdate]->isVisible());
+        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kPublishUpdate]);
+        EXPECT_FALSE(frmMain->cmdUpdateWeb[kPublishCancel]->isVisible());
         for (const QWidget* control : {static_cast<QWidget*>(frmMain->cmdHosting),
                                        static_cast<QWidget*>(frmMain->chkShowPreview),
                                        static_cast<QWidget*>(frmMain->fraTabs[0]),
@@ -207,9 +203,9 @@ protected:
     }
 
     static void ExpectBusy() {
-        EXPECT_FALSE(frmMain->cmdUpdateWeb[kUpdate]->isVisible());
-        EXPECT_TRUE(frmMain->cmdUpdateWeb[kCancel]->isVisible());
-        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kCancel]);
+        EXPECT_FALSE(frmMain->cmdUpdateWeb[kPublishUpdate]->isVisible());
+        EXPECT_TRUE(frmMain->cmdUpdateWeb[kPublishCancel]->isVisible());
+        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kPublishCancel]);
         for (const QWidget* control : {static_cast<QWidget*>(frmMain->cmdHosting),
                                        static_cast<QWidget*>(frmMain->optAllOrChanged[0]),
                                        static_cast<QWidget*>(frmMain->fraTabs[0]),
@@ -262,10 +258,10 @@ TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     EXPECT_TRUE(frmMain->optAllOrChanged[1]->isChecked());
     Expect({"dddd", "", "Última actualización", 910, true, false});
 
-    SelectMainTab(kPageCatalogue);
+    SelectMainTab(kTabCatalogue);
     ClickRow(1);
     Type(frmMain->txtPriceAmount, "77");
-    SelectMainTab(kPagePublish);
+    SelectMainTab(kTabPublish);
     EXPECT_EQ(StepLetters(), "dddd");
     ResetControlFile(); // as at another start of the program
     Publish();
@@ -336,8 +332,8 @@ TEST_F(Workflow, ASiteSavedInAFolderIsShownAndAnErrorThereIsNot) {
     const QString site = program.Folder() + "web/";
     const auto publishTo = [this](const QString& folder) {
         Begin();
-        SetStorage(0, folder);
-        SelectMainTab(kPagePublish);
+        SetStorage(kStorageLocal, folder);
+        SelectMainTab(kTabPublish);
         Publish();
     };
     publishTo(program.Folder() + "no/such/");
@@ -387,9 +383,9 @@ TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
         Publish();
         ExpectIdle();
         EXPECT_EQ(frmMain->lblInfo->text(), "Cancelando la actualización...");
-        SelectMainTab(kPageCatalogue);
+        SelectMainTab(kTabCatalogue);
         ClickTool("Preview");
-        SelectMainTab(kPagePublish);
+        SelectMainTab(kTabPublish);
         EXPECT_EQ(StepLetters(), "dddf");
         server.Behave();
         server.Play({"! reset"});

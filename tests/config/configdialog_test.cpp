@@ -37,7 +37,7 @@ protected:
             .Write(program.Folder(), "B.zdt");
         SetTemplate(program.Folder() + "A.zdt", 0, 6);
         SetColorSet(1);
-        SetStorage(0, program.Folder() + "web");
+        SetStorage(kStorageLocal, program.Folder() + "web");
         SetLastWebUpdate("01/02/2026 10:00:00");
     }
 
@@ -94,13 +94,13 @@ TEST_F(Config, ShowsSettingsAndAcceptingWithoutAChangeKeepsThem) {
 
 TEST_F(Config, CancelKeepsEverything) {
     Open(kPageHosting, [] {
-        Click(frmConfig->optStorageMethod[1]);
+        Click(frmConfig->optStorageMethod[kStorageFTP]);
         EXPECT_TRUE(frmConfig->cmdCheckFTP->isEnabled());
         EXPECT_FALSE(frmConfig->cmdBrowseDir[2]->isEnabled());
         Type(frmConfig->txtFTPServer, "otro.example.com");
         Click(frmConfig->cmdCancel);
     });
-    EXPECT_EQ(StorageMethod, 0);
+    EXPECT_EQ(StorageMethod, kStorageLocal);
     EXPECT_NE(FTPServer, "otro.example.com");
 }
 
@@ -178,13 +178,13 @@ TEST_F(Config, AnotherDesignForgetsTheLastPublishAndDemotesBeyondItsLimit) {
 TEST_F(Config, TheConnectionTestTakesTheValuesOverAndCannotBeUndone) {
     const BoxAnswers boxes;
     Open(kPageHosting, [&boxes] {
-        Click(frmConfig->optStorageMethod[1]);
+        Click(frmConfig->optStorageMethod[kStorageFTP]);
         Type(frmConfig->txtFTPServer, "host.invalid");
         Click(frmConfig->cmdCheckFTP);
         EXPECT_TRUE(boxes.Texts().contains("'host.invalid'")) << boxes.Texts().toStdString();
         EXPECT_FALSE(frmConfig->cmdCancel->isEnabled());
     });
-    EXPECT_EQ(StorageMethod, 1);
+    EXPECT_EQ(StorageMethod, kStorageFTP);
     EXPECT_EQ(FTPServer, "host.invalid");
 }
 
@@ -201,7 +201,7 @@ TEST_F(Config, ASecondPressDoesNotDisturbTheConnectionTest) {
         server.nextPendingConnection()->abort();
     });
     Open(kPageHosting, [] {
-        Click(frmConfig->optStorageMethod[1]);
+        Click(frmConfig->optStorageMethod[kStorageFTP]);
         Type(frmConfig->txtFTPServer, "127.0.0.1");
         Click(frmConfig->cmdCheckFTP);
     });

@@ -57,7 +57,7 @@ TEST_F(Settings, DefaultsFollowAMovedStoreAndFoldersGetTheirSeparator) {
 TEST_F(Settings, WrittenValuesAreReadAgain) {
     LoadSettings();
     SetFTP("ftp.ejemplo.es", "/www", "usuario", " \"cláve; con=todo#\\n ");
-    SetStorage(1, "/srv/web");
+    SetStorage(kStorageFTP, "/srv/web");
     SetStoreFolder("/srv/datos");
     SetTemplate("/otro/sitio.zdt", 3, 12);
     SetColorSet(2);
@@ -67,7 +67,7 @@ TEST_F(Settings, WrittenValuesAreReadAgain) {
     SetFTP({}, {}, {}, {});
     LoadSettings();
     EXPECT_EQ(FTPPass, " \"cláve; con=todo#\\n ");
-    EXPECT_EQ(StorageMethod, 1);
+    EXPECT_EQ(StorageMethod, kStorageFTP);
     EXPECT_EQ(DBpath, "/srv/datos/");
     EXPECT_EQ(TemplPath, "/otro/sitio.zdt");
     EXPECT_EQ(TemplMaxEmph, 12);
@@ -97,14 +97,13 @@ TEST_F(Settings, WhatIsNoNumberCountsAsItsDefault) {
 }
 
 TEST_F(Settings, DeletionsAreOnDiskAtOnceAndOnlyOnce) {
+    SaveSetting(AppName, "Params", "DeletedItems", "p3");
     LoadSettings();
-    AddDeletedItem("P", "3");
-    AddDeletedItem("P", "5");
-    AddDeletedItem("p", "3");
-    EXPECT_EQ(GetSetting(AppName, "Params", "DeletedItems"), "P3|P5");
-    AddDeletedItem("P", "123");
-    AddDeletedItem("P", "12"); // found inside P123
-    EXPECT_EQ(GetSetting(AppName, "Params", "DeletedItems"), "P3|P5|P123");
+    AddDeletedItem(DeletedItem::Product, "3");
+    AddDeletedItem(DeletedItem::Picture, "3");
+    AddDeletedItem(DeletedItem::Product, "123");
+    AddDeletedItem(DeletedItem::Product, "12"); // found inside P123
+    EXPECT_EQ(GetSetting(AppName, "Params", "DeletedItems"), "p3|I3|P123");
     ClearDeletedItems();
     SaveSettings();
     EXPECT_EQ(GetSetting(AppName, "Params", "DeletedItems", "absent"), "");

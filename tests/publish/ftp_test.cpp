@@ -89,7 +89,7 @@ protected:
         FTPControlPort = server.Port();
         LoadFlavour("/nowhere/");
         SetStoreFolder(folder.path() + "/");
-        SetStorage(1, {});
+        SetStorage(kStorageFTP, {});
         SetFTP("127.0.0.1", "/web", "ana", "clave");
         Begin();
     }

@@ -24,7 +24,7 @@ protected:
             GTEST_SKIP() << obstacle.toStdString();
         }
         SetStoreFolder(folder.path() + "/");
-        SetStorage(1, {});
+        SetStorage(kStorageFTP, {});
         ResetControlFile();
         SetAbortPublish(false);
         SetUpSteps();

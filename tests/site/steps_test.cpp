@@ -52,7 +52,7 @@ TEST_F(StepsTest, TheListFollowsTheStorageAndAStepOfTheLastRunKeepsItsStateWhile
         }
         return steps.join(u'|').toStdString();
     };
-    SetStorage(1, {});
+    SetStorage(kStorageFTP, {});
     SetUpSteps();
     ResetSteps();
     StartSteps();
@@ -64,7 +64,7 @@ TEST_F(StepsTest, TheListFollowsTheStorageAndAStepOfTheLastRunKeepsItsStateWhile
     const std::string made = "dGenerar el Contenido Web|dComprobar y Listar los cambios|";
     EXPECT_EQ(list(),
               made + "fConectar con el Servidor Web|cEnviar los Ficheros al Servidor Web|t");
-    SetStorage(0, {});
+    SetStorage(kStorageLocal, {});
     SetUpSteps();
     EXPECT_EQ(list(), made + "tGuardar los Ficheros en Carpeta Local|t|t");
 }

@@ -19,8 +19,6 @@
 
 namespace {
 
-constexpr int kButtonUpdate = 0;
-constexpr int kStorageLocal = 0;
 constexpr char kUpdate[] = "SITES_UPDATE"; // in the environment: expected files are written anew
 
 const std::map<QString, PreviewPage> kPreviews{{"product", PreviewPage::Product},
@@ -139,7 +137,8 @@ protected:
             SaveShowAPIlogo(words[1] == "shown");
         } else if (what == "published") {
             published = words[1];
-            frmMain->optAllOrChanged[words[2] == "changed" ? 0 : 1]->setChecked(true);
+            frmMain->optAllOrChanged[words[2] == "changed" ? kPublishChanged : kPublishAll]
+                ->setChecked(true);
         } else if (what == "site") {
             MakeSite(words[1]);
         } else if (what == "preview") {
@@ -154,7 +153,7 @@ protected:
         QDir(folder).removeRecursively();
         SetStorage(kStorageLocal, folder);
         SetLastWebUpdate(published);
-        cmdUpdateWeb_Click(kButtonUpdate);
+        cmdUpdateWeb_Click(kPublishUpdate);
         EXPECT_EQ(LastOutcome, PublishOutcome::Delivered);
         Check(name, folder);
     }

@@ -26,6 +26,16 @@ TEST(TaggedText, EntriesLanguagesAndTheLastAlternativeWhereOneIsMissing) {
     }
 }
 
+TEST(FieldTypes, AreTheStoredLettersAloneAndEverythingElseIsText) {
+    const std::pair<const char*, FieldType> cases[] = {
+        {"B", FieldType::YesNo}, {"O", FieldType::Options}, {"I", FieldType::Internal},
+        {"T", FieldType::Text},  {"", FieldType::Text},     {"b", FieldType::Text},
+        {"BO", FieldType::Text}};
+    for (const auto& [stored, type] : cases) {
+        EXPECT_EQ(FieldTypeOf(stored), type) << stored;
+    }
+}
+
 TEST(FieldDefs, SlotsAreDressedByTheirTypeAndTheRestIsClosed) {
     const TestProgram program;
     EXPECT_EQ(FirstHiddenField, 3);

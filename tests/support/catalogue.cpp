@@ -96,8 +96,7 @@ TestCatalogue::TestCatalogue(const QString& rows) {
     for (Recordset& cursor : adcData) {
         cursor.SetConnection(connection);
     }
-    RunQuery(kCursorScratch, "SELECT count(*) AS n FROM ProductFieldDef WHERE Type<>'I'");
-    FirstHiddenField = static_cast<int>(adcData[kCursorScratch].Integer(u"n"));
+    CountPublicFields();
     LoadCorpInfo();
 }
 
