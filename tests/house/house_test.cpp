@@ -1,4 +1,5 @@
 #include "housecheck.h"
+#include "writercheck.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -77,4 +78,39 @@ TEST(House, EveryFaultIsToldWithItsLines) {
     more["gone"] = 3;
     EXPECT_EQ(FindHouseFaults(more, sound).join("\n").toStdString(),
               "the table has gone/, which has no sources");
+}
+
+TEST(House, ProcessWideValuesAreWrittenByTheirOwnersAlone) {
+    EXPECT_EQ(FindForeignWrites(ReadHouse()).join("\n").toStdString(), "");
+}
+
+TEST(House, AForeignWriteIsToldWithItsLine) {
+    const SourceTexts owner = {
+        {"low/a.h", "extern int Count; // Count = 1\nextern const int Fixed;\n"
+                    "extern std::vector<Row>\n    Rows;\nextern QString Name;\n"},
+        {"low/a.cpp", "int Count = 0;\nvoid SetCount() { Count = 1; Rows.clear(); }\n"}};
+    const std::pair<const char*, const char*> cases[] = {
+        {"Count = 1;", "Count"},
+        {"++Count;", "Count"},
+        {"Count += 2;", "Count"},
+        {"Rows[i].Text = {};", "Rows"},
+        {"Rows[0].Text.clear();", "Rows"},
+        {"auto kept = std::move(Rows);", "Rows"},
+        {"for (Row& row : Rows) {", "Rows"},
+        {"Row& row = Rows[2];", "Rows"},
+        {"Name.replace(1, 2, text);", "Name"},
+        {"Fill(3, &Name);", "Name"},
+        {"if (Count == 1 && Rows.size() >= 2) {", nullptr},
+        {"row.Count = 1; box->Name = Name; Recount = Count;", nullptr},
+        {"for (const Row& row : Rows) { // Rows = {}", nullptr},
+        {"Show(\"Count = 1\", Name.left(2)); SetCount();", nullptr},
+    };
+    for (const auto& [line, value] : cases) {
+        SourceTexts texts = owner;
+        texts["high/b.cpp"] = QStringLiteral("\n%1\n").arg(line);
+        const QString fault = value == nullptr
+                                  ? QString()
+                                  : QStringLiteral("high/b.cpp:2 writes %1 of low/a.h").arg(value);
+        EXPECT_EQ(FindForeignWrites(texts).join("\n").toStdString(), fault.toStdString()) << line;
+    }
 }
