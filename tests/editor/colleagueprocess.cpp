@@ -1,5 +1,6 @@
 #include "tests/editor/colleagueprocess.h"
 
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 namespace {
@@ -11,7 +12,11 @@ constexpr int kLimit = 60000; // milliseconds for one answer
 ColleagueProcess::ColleagueProcess(const QString& folder, bool killer) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     if (killer) {
-        environment.insert("LD_PRELOAD", KILLER);
+        // By name, since a path with blanks would count as several.
+        const QFileInfo library(KILLER);
+        environment.insert("LD_PRELOAD", library.fileName());
+        environment.insert("LD_LIBRARY_PATH",
+                           library.path() + ":" + environment.value("LD_LIBRARY_PATH"));
     }
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);

@@ -136,6 +136,7 @@ TEST(StoreConnection, ReadOnlyStoreCanBeReadAndRefusesWrites) {
     StoreFixture store;
     store.Leave();
     SetMode(store.Path(), 0444);
+    SetMode(store.Path() + ".lck", 0444); // whose owner could lock its rows
     SetMode(store.Folder(), 0555);
     OtherProcess other([&](OtherProcess& parent) {
         if (geteuid() == 0 && setuid(kNobody) != 0) { // permissions don't bind root
