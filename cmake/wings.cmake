@@ -1,6 +1,13 @@
 # One folder is one wing and one static library. Every wing compiles under the same flags and shares
 # the precompiled toolkit headers, so that a change costs one short compile.
 
+# Where there is the compiler cache: it serves every checkout of a user, precompiled headers and all.
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
+endif()
+
 # The warnings are for our own code alone: system headers are exempt.
 add_library(house_flags INTERFACE)
 target_include_directories(house_flags INTERFACE ${CMAKE_SOURCE_DIR})
@@ -8,7 +15,7 @@ target_compile_options(house_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Werror -fPIC)
 target_compile_definitions(house_flags INTERFACE QT_NO_CAST_FROM_BYTEARRAY)
 target_link_libraries(house_flags INTERFACE Qt6::Widgets Qt6::Network Qt6::Svg)
-if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
     # The compiler cache can't tell without it what a precompiled header brings.
     target_compile_options(house_flags INTERFACE -fpch-preprocess)
 endif()
