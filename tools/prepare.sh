@@ -1,37 +1,82 @@
-# What ./run and ./test have in common: packages and build. Sourced from the top folder.
+# shellcheck shell=bash
+# What ./run, ./test and .ci/run have in common: packages and build. Sourced from the top folder.
 
-as_root=()
-[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+# fail WORDS...: says in one line what is wrong and ends.
+fail() {
+    echo "$*" >&2
+    exit 1
+}
 
-# install_packages USE...: installs what packages.txt lists for these uses and the machine lacks.
+show_end() {
+    tail -n 30 "$1" >&2
+    echo "El registro completo: $1" >&2
+}
+
+# logged LOG COMMAND...: adds what the command says to the log; its end is shown if the command fails.
+logged() {
+    local log=$1
+    shift
+    "$@" >>"$log" 2>&1 && return
+    show_end "$log"
+    return 1
+}
+
+# as_root COMMAND...: without a sudo that lets this user through it fails.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# packages USE...: what packages.txt lists for these uses.
+packages() {
+    local use
+    for use in "$@"; do sed -n "s/^$use //p" packages.txt; done
+}
+
+apt_install() {
+    as_root env LC_ALL=C DEBIAN_FRONTEND=noninteractive \
+        apt-get -o DPkg::Lock::Timeout=300 --no-install-recommends "$1" install "${missing[@]}"
+}
+
+# install_packages USE...: installs what is listed for these uses and the machine lacks.
 install_packages() {
-    local use missing=()
-    for use in "$@"; do
-        local package
-        for package in $(sed -n "s/^$use //p" packages.txt); do
-            dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
-                missing+=("$package")
-        done
+    local package missing=() log=build/instalar.log
+    for package in $(packages "$@"); do
+        dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
+            missing+=("$package")
     done
-    [ ${#missing[@]} -eq 0 ] && return 0
-    echo "Instalando: ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"
+    [ ${#missing[@]} -gt 0 ] || return 0
+    local advice="Faltan paquetes. Instálelos como administrador y con red:"
+    advice+=" apt-get update && apt-get install --no-install-recommends ${missing[*]}"
+    [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null || fail "$advice"
+    mkdir -p build
+    echo "Buscando ${#missing[@]} paquetes que faltan..."
+    as_root apt-get update >"$log" 2>&1 || true # older lists may do
+    local sizes
+    sizes=$(apt_install --assume-no 2>>"$log" | sed -nE \
+        -e 's/^Need to get ([^ ]+\/)?([0-9.,]+ [kMG]?B) .*/\2 por descargar,/p' \
+        -e 's/^After this operation, ([0-9.,]+ [kMG]?B) of .*/\1 en el disco,/p' | tr '\n' ' ') || true
+    echo "Instalando: ${sizes}de 1 a 10 minutos según la red. Registro: $log"
+    apt_install --yes >>"$log" 2>&1 && return
+    # Without a network there is nothing else to say.
+    grep -q 'Failed to fetch\|Unable to locate' "$log" || show_end "$log"
+    fail "$advice"
 }
 
 # unpack_packages FOLDER: unpacks there, without installing, what packages.txt lists for that.
 unpack_packages() {
-    local folder=$1 missing=() package
-    for package in $(sed -n 's/^unpack //p' packages.txt); do
+    local folder=$1 log=build/instalar.log missing=() package
+    for package in $(packages unpack); do
         [ -e "$folder/$package.done" ] || missing+=("$package")
     done
-    [ ${#missing[@]} -eq 0 ] && return 0
+    [ ${#missing[@]} -gt 0 ] || return 0
     echo "Desempaquetando: ${missing[*]}"
     rm -rf "$folder/new"
     mkdir -p "$folder/new"
     # As the present user, since apt's own may not reach the folder. Old lists of packages are renewed.
-    local download=(env -C "$folder/new" apt-get download -qq -o APT::Sandbox::User= "${missing[@]}")
-    "${download[@]}" 2>/dev/null || { "${as_root[@]}" apt-get update -qq && "${download[@]}"; }
+    local download=(env -C "$folder/new" apt-get download -o APT::Sandbox::User= "${missing[@]}")
+    "${download[@]}" >>"$log" 2>&1 ||
+        { as_root apt-get update >>"$log" 2>&1 && logged "$log" "${download[@]}"; } ||
+        fail "No se pueden descargar sin red: ${missing[*]}. Como administrador: apt-get update; repita ./test"
     for package in "${missing[@]}"; do
         dpkg-deb -x "$folder/new/$package"_*.deb "$folder"
         touch "$folder/$package.done"
@@ -39,10 +84,39 @@ unpack_packages() {
     rm -r "$folder/new"
 }
 
-# build PRESET [TARGET...]: configures once and builds.
+# built_in FOLDER: where the checkout lay when this folder was configured; empty if it never was.
+built_in() {
+    sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$1/CMakeCache.txt" 2>/dev/null || true
+}
+
+# leave_old_place FOLDER: undoes what was built before the checkout was renamed or copied, but for the
+# folder of the programs, which holds the user's catalogue.
+leave_old_place() {
+    local place
+    place=$(built_in "$1")
+    [ -z "$place" ] || [ "$place" -ef . ] ||
+        find "$1" -mindepth 1 -maxdepth 1 ! -name bin -exec rm -rf {} +
+}
+
+# The compiler cache lies at the user's home, or in the checkout if that can't be written.
+place_cache() {
+    local cache
+    cache=$(ccache --get-config cache_dir 2>/dev/null) || return 0
+    if ! mkdir -p "$cache" 2>/dev/null || [ ! -w "$cache" ]; then
+        export CCACHE_DIR=$PWD/build/ccache
+    fi
+}
+
+# build PRESET [TARGET...]: configures and builds.
 build() {
-    local preset=$1
+    local preset=$1 log=build/$1.log
     shift
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"
-    cmake --build --preset "$preset" ${1:+--target "$@"}
+    leave_old_place "build/$preset"
+    place_cache
+    [ -f "build/$preset/build.ninja" ] ||
+        echo "Compilando por primera vez: de 2 a 20 minutos según la máquina. Registro: $log"
+    mkdir -p build
+    : >"$log"
+    logged "$log" cmake --preset "$preset" &&
+        logged "$log" cmake --build --preset "$preset" ${1:+--target "$@"}
 }
