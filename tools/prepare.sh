@@ -21,9 +21,13 @@ logged() {
     return 1
 }
 
-# as_root COMMAND...: without a sudo that lets this user through it fails.
+# as_root COMMAND...: fails without a sudo that lets this user through.
 as_root() {
-    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo -p "Contraseña de %u, para instalar lo que falta: " "$@"
+    fi
 }
 
 # packages USE...: what packages.txt lists for these uses.
@@ -47,13 +51,13 @@ install_packages() {
     [ ${#missing[@]} -gt 0 ] || return 0
     local advice="Faltan paquetes. Instálelos como administrador y con red:"
     advice+=" apt-get update && apt-get install --no-install-recommends ${missing[*]}"
-    [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null || fail "$advice"
+    as_root true 2>/dev/null || fail "$advice"
     mkdir -p build
-    echo "Buscando ${#missing[@]} paquetes que faltan..."
+    echo "Paquetes que faltan: ${#missing[@]}. Buscándolos..."
     as_root apt-get update >"$log" 2>&1 || true # older lists may do
     local sizes
     sizes=$(apt_install --assume-no 2>>"$log" | sed -nE \
-        -e 's/^Need to get ([^ ]+\/)?([0-9.,]+ [kMG]?B) .*/\2 por descargar,/p' \
+        -e 's/^Need to get ([0-9.,]+ [kMG]?B)[ /].*/\1 por descargar,/p' \
         -e 's/^After this operation, ([0-9.,]+ [kMG]?B) of .*/\1 en el disco,/p' | tr '\n' ' ') || true
     echo "Instalando: ${sizes}de 1 a 10 minutos según la red. Registro: $log"
     apt_install --yes >>"$log" 2>&1 && return
@@ -113,9 +117,8 @@ build() {
     shift
     leave_old_place "build/$preset"
     place_cache
-    [ -f "build/$preset/build.ninja" ] ||
-        echo "Compilando por primera vez: de 2 a 20 minutos según la máquina. Registro: $log"
     mkdir -p build
+    echo "Compilando: la primera vez, de 2 a 20 minutos según la máquina. Registro: $log"
     : >"$log"
     logged "$log" cmake --preset "$preset" &&
         logged "$log" cmake --build --preset "$preset" ${1:+--target "$@"}
