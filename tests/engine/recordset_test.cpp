@@ -46,6 +46,8 @@ TEST(Recordset, ReadsTypesAndNamesWithoutRegardToCase) {
     row.MoveNext();
     EXPECT_TRUE(row.IsNull(u"SaleZone"));
     EXPECT_EQ(ErrorOf([&] { row.Value(u"Nada"); }), kErrNoColumn);
+    EXPECT_EQ(ErrorOf([&] { row.Value(-1); }), kErrNoColumn);
+    EXPECT_EQ(ErrorOf([&] { row.Value(5); }), kErrNoColumn);
 
     EXPECT_EQ(store.Rows("SELECT x'C3B1', '', 1e300 = 1e300"), "ñ,,1");
 }
