@@ -3,9 +3,11 @@
 #include "app/workflow.h"
 
 #include "app/mainscreen.h"
+#include "core/flavour.h"
 #include "core/settings.h"
 #include "forms/mainform.h"
 #include "forms/webpreviewform.h"
+#include "platform/usersettings.h"
 #include "publish/ftp.h"
 #include "publish/md5control.h"
 #include "site/abort.h"
@@ -13,6 +15,7 @@
 #include "site/steps.h"
 #include "site/template.h"
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/ftpserver.h"
 #include "tests/support/program.h"
 #include "tests/support/templatebuilder.h"
@@ -62,6 +65,14 @@ struct Outcome {
     int bars;          // the two bars as value of the first * 100 + value of the second
     bool recorded;     // LastWebUpdate set and DeletedItems cleared, both kept in settings.ini
     bool filesKept;    // OutputFiles still hold the site
+};
+
+// A run that ends in a way of its own.
+struct Ending {
+    const char* name;
+    std::function<void()> prepare;
+    std::string sent; // and recorded in the control file
+    Outcome outcome;
 };
 
 class Workflow : public testing::Test {
@@ -153,18 +164,25 @@ protected:
 
     // Names in the control file, in order.
     std::string Recorded() const {
-        QFile file(program.Folder() + "md5control.txt");
         QStringList names;
-        for (file.open(QIODevice::ReadOnly); !file.atEnd();) {
-            names += QString::fromLatin1(file.read(94).left(60)).trimmed();
+        for (QByteArray rest = ReadFile(program.Folder() + "md5control.txt"); rest.size() > 60;
+             rest.remove(0, 94)) {
+            names += QString::fromLatin1(rest.left(60)).trimmed();
         }
         return names.join(u' ').toStdString();
     }
 
-    static QString SettingsText() {
-        QFile file(QString::fromUtf8(qgetenv("XDG_CONFIG_HOME")) + "/Lumenta/settings.ini");
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QString::fromUtf8(file.readAll());
+    void RunEach(const std::vector<Ending>& endings) {
+        for (const Ending& ending : endings) {
+            SCOPED_TRACE(ending.name);
+            Begin();
+            ending.prepare();
+            Publish();
+            EXPECT_EQ(Sent(), ending.sent);
+            EXPECT_EQ(Recorded(), ending.sent);
+            EXPECT_EQ(frmMain->lblRemaining->text(), "");
+            Expect(ending.outcome);
+        }
     }
 
     void Expect(const Outcome& outcome) const {
@@ -176,7 +194,7 @@ protected:
         EXPECT_EQ(frmMain->prbProgress[1]->maximum(), 10);
         EXPECT_EQ(!OutputFiles.empty() && !OutputFiles[0].Name.isEmpty(), outcome.filesKept);
         ExpectSettings(outcome.recorded);
-        ExpectIdle();
+        ExpectScreens(false);
     }
 
     static void ExpectSettings(bool recorded) {
@@ -184,35 +202,22 @@ protected:
         ASSERT_TRUE(last);
         EXPECT_EQ(last->secsTo(Now()) < 60, recorded) << LastWebUpdate.toStdString();
         EXPECT_EQ(DeletedItems, recorded ? "" : kPending);
-        EXPECT_TRUE(SettingsText().contains("LastWebUpdate=" + LastWebUpdate + '\n'));
-        EXPECT_TRUE(SettingsText().contains("DeletedItems=" + DeletedItems + '\n'));
+        EXPECT_EQ(GetSetting(AppName, "Params", "LastWebUpdate"), LastWebUpdate);
+        EXPECT_EQ(GetSetting(AppName, "Params", "DeletedItems"), DeletedItems);
     }
 
-    static void ExpectIdle() {
-        EXPECT_TRUE(frmMain->cmdUpdateWeb[kPublishUpdate]->isVisible());
-        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kPublishUpdate]);
-        EXPECT_FALSE(frmMain->cmdUpdateWeb[kPublishCancel]->isVisible());
-        for (const QWidget* control : {static_cast<QWidget*>(frmMain->cmdHosting),
-                                       static_cast<QWidget*>(frmMain->chkShowPreview),
-                                       static_cast<QWidget*>(frmMain->fraTabs[0]),
-                                       static_cast<QWidget*>(frmMain->txtProductRef)}) {
-            EXPECT_TRUE(control->isEnabled()) << control->objectName().toStdString();
+    static void ExpectScreens(bool busy) {
+        const QPushButton* shown = frmMain->cmdUpdateWeb[busy ? kPublishCancel : kPublishUpdate];
+        EXPECT_TRUE(shown->isVisible());
+        EXPECT_EQ(frmMain->focusWidget(), shown);
+        EXPECT_FALSE(frmMain->cmdUpdateWeb[busy ? kPublishUpdate : kPublishCancel]->isVisible());
+        for (const QWidget* control :
+             std::initializer_list<QWidget*>{frmMain->cmdHosting, frmMain->chkShowPreview,
+                                             frmMain->fraTabs[0], frmMain->txtProductRef}) {
+            EXPECT_EQ(control->isEnabled(), !busy) << control->objectName().toStdString();
         }
         EXPECT_FALSE(frmMain->txtFields.back()->isEnabled()) << "a box without a field";
-        EXPECT_TRUE(frmMain->mnuConfig[0]->isEnabled());
-    }
-
-    static void ExpectBusy() {
-        EXPECT_FALSE(frmMain->cmdUpdateWeb[kPublishUpdate]->isVisible());
-        EXPECT_TRUE(frmMain->cmdUpdateWeb[kPublishCancel]->isVisible());
-        EXPECT_EQ(frmMain->focusWidget(), frmMain->cmdUpdateWeb[kPublishCancel]);
-        for (const QWidget* control : {static_cast<QWidget*>(frmMain->cmdHosting),
-                                       static_cast<QWidget*>(frmMain->optAllOrChanged[0]),
-                                       static_cast<QWidget*>(frmMain->fraTabs[0]),
-                                       static_cast<QWidget*>(frmMain->txtProductRef)}) {
-            EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
-        }
-        EXPECT_FALSE(frmMain->mnuConfig[0]->isEnabled());
+        EXPECT_EQ(frmMain->mnuConfig[0]->isEnabled(), !busy);
     }
 
     MemoryDisk memory;
@@ -233,7 +238,7 @@ protected:
 
 TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     whileSending = [] {
-        ExpectBusy();
+        ExpectScreens(true);
         EXPECT_EQ(StepLetters(), "dddc");
         EXPECT_TRUE(frmMain->lblInfo->text().startsWith("Enviando "));
     };
@@ -271,61 +276,49 @@ TEST_F(Workflow, ASiteIsSentOnceAndThenOnlyWhatNamesAChangedProduct) {
     EXPECT_EQ(Recorded(), kSite);
 }
 
-TEST_F(Workflow, EachWayARunCanFailLeavesWhatItShould) {
+TEST_F(Workflow, EachWayAServerCanRefuseARunLeavesWhatItShould) {
     const std::string connect = "warning: Error al conectar con el servidor FTP '127.0.0.1'. ";
-    const struct {
-        const char* name;
-        std::function<void()> prepare;
-        std::string sent; // and recorded in the control file
-        Outcome outcome;
-    } kCases[] = {
+    RunEach({
         {"nothing listens",
          [] { FTPControlPort = 1; },
          "",
          {"ddff", connect + "No se puede conectar con el servidor", kNotDone, 910, false, false}},
         {"wrong password",
-         [&] { server.Answer("PASS", {"< 530 Who?"}); },
+         [this] { server.Answer("PASS", {"< 530 Who?"}); },
          "",
          {"ddff", connect + "530 Who?", kNotDone, 910, false, false}},
         {"third file refused",
-         [&] { whileSending = [&] { server.Answer("STOR", {"< 553 Not that name"}); }; },
+         [this] { whileSending = [this] { server.Answer("STOR", {"< 553 Not that name"}); }; },
          "web.css indexES.html index.html",
          {"dddf", "information: Error al enviar el archivoindex.html. 553 Not that name (12003).",
           kWithErrors, 210, true, false}},
-        {"cancelled between files",
-         [&] { whileSending = Cancel; },
+        {"no design", [] { QFile::remove(TemplPath); }, "", {"tttt", "", kHint, 0, false, false}},
+    });
+}
+
+TEST_F(Workflow, EachMomentOfACancelLeavesWhatItShould) {
+    const auto cancelAt = [this](int value) {
+        overall = value;
+        atOverall = Cancel;
+    };
+    RunEach({
+        {"between files",
+         [this] { whileSending = Cancel; },
          "web.css indexES.html",
          {"dddf", "", kCancelled, 107, false, true}},
-        {"cancelled when all is sent",
-         [&] {
-             overall = 7;
-             atOverall = Cancel;
-         },
+        {"when all is sent",
+         [&] { cancelAt(7); },
          kSite,
          {"dddf", "", kWithErrors, 907, true, true}},
-        {"cancelled while pages are made",
-         [&] {
-             overall = 2;
-             atOverall = Cancel;
-         },
+        {"while pages are made",
+         [&] { cancelAt(2); },
          "",
          {"fttt", "", kCancelled, 202, false, true}},
-        {"cancelled before it begins",
-         [&] { QMetaObject::invokeMethod(frmMain, Cancel, Qt::QueuedConnection); },
+        {"before it begins",
+         [] { QMetaObject::invokeMethod(frmMain, Cancel, Qt::QueuedConnection); },
          "",
          {"fttt", "", kCancelled, 0, false, false}},
-        {"no design", [&] { QFile::remove(TemplPath); }, "", {"tttt", "", kHint, 0, false, false}},
-    };
-    for (const auto& failure : kCases) {
-        SCOPED_TRACE(failure.name);
-        Begin();
-        failure.prepare();
-        Publish();
-        EXPECT_EQ(Sent(), failure.sent);
-        EXPECT_EQ(Recorded(), failure.sent);
-        EXPECT_EQ(frmMain->lblRemaining->text(), "");
-        Expect(failure.outcome);
-    }
+    });
 }
 
 TEST_F(Workflow, ASiteSavedInAFolderIsShownAndAnErrorThereIsNot) {
@@ -379,9 +372,9 @@ TEST_F(Workflow, ACancelWhileTheServerStandsStillGivesTheScreensBackAtOnce) {
         EXPECT_EQ(StepLetters(), "dddc");
         Cancel();
         EXPECT_EQ(StepLetters(), "dddf");
-        ExpectIdle();
+        ExpectScreens(false);
         Publish();
-        ExpectIdle();
+        ExpectScreens(false);
         EXPECT_EQ(frmMain->lblInfo->text(), "Cancelando la actualización...");
         SelectMainTab(kTabCatalogue);
         ClickTool("Preview");
@@ -405,7 +398,7 @@ TEST_F(Workflow, ACancelWhileConnectingShowsBeforeTheServerHasAnswered) {
         EXPECT_EQ(StepLetters(), "ddct");
         Cancel();
         EXPECT_EQ(StepLetters(), "ddft");
-        ExpectIdle();
+        ExpectScreens(false);
         server.Behave();
         server.Play({"! reset"});
     };

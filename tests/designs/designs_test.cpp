@@ -124,21 +124,23 @@ TEST(Designs, PagesOfAProductTakeQuotesAndItsSheetShowsValuesWithoutGaps) {
     }
 }
 
+constexpr char kHomes[] = "def; 0; T; ESSuperficie#ENFloor area\n"
+                          "def; 1; O; ESTipo#ENType; ESPisos#ENFlats|ESAlquiler#ENTo let\n"
+                          "product; 10001; T-1; 850; 0; Oliva-\"Racons\"; 2024-01-01T00:00:00\n"
+                          "field; 10001; 0; 1.200\n"
+                          "field; 10001; 1; 1\n"
+                          "product; 10002; T-2; 85000; 0; L'Alfàs; 2024-01-01T00:00:00\n"
+                          "field; 10002; 0; 90\n"
+                          "field; 10002; 1; 0\n"
+                          "product; 10003; T-3; 700; 0; L'Alfàs; 2024-01-01T00:00:00\n"
+                          "field; 10003; 0;\n"
+                          "field; 10003; 1; 1\n"
+                          "textdef; Products; 0; ShortDesc\n"
+                          "textdef; Products; 1; LongDesc";
+
 TEST(Designs, HomesOfTheAgencyShowRentsByTheMonthAndSizesInMetres) {
     const MainForm form;
-    TestCatalogue catalogue("def; 0; T; ESSuperficie#ENFloor area\n"
-                            "def; 1; O; ESTipo#ENType; ESPisos#ENFlats|ESAlquiler#ENTo let\n"
-                            "product; 10001; T-1; 850; 0; Oliva-\"Racons\"; 2024-01-01T00:00:00\n"
-                            "field; 10001; 0; 1.200\n"
-                            "field; 10001; 1; 1\n"
-                            "product; 10002; T-2; 85000; 0; L'Alfàs; 2024-01-01T00:00:00\n"
-                            "field; 10002; 0; 90\n"
-                            "field; 10002; 1; 0\n"
-                            "product; 10003; T-3; 700; 0; L'Alfàs; 2024-01-01T00:00:00\n"
-                            "field; 10003; 0;\n"
-                            "field; 10003; 1; 1\n"
-                            "textdef; Products; 0; ShortDesc\n"
-                            "textdef; Products; 1; LongDesc");
+    TestCatalogue catalogue(kHomes);
     SetUserLangs("ES|EN", "ES");
     SetUICurrentLang("ES");
     QTemporaryDir packed;

@@ -30,26 +30,8 @@ protected:
 } // namespace
 
 TEST_F(UserSettings, AnyTextComesBackAsWritten) {
-    const QStringList texts{"",
-                            "a,b;c",
-                            " leading",
-                            "trailing\t",
-                            "\"quoted\"",
-                            "\"",
-                            "say \"hi\"",
-                            "C:\\new\\temp",
-                            "\\",
-                            "50%20 %1",
-                            "@Variant(x)",
-                            "[Params]",
-                            "; no comment",
-                            "# nor this",
-                            "a=b=c",
-                            "two\nlines\r\n",
-                            "Ñandú € 日本 \U0001F600",
-                            " \\\" ",
-                            QString::fromUtf8("nul\0inside", 10)};
-    for (const QString& text : texts) {
+    for (const QStringList& row : ReadTable(TEXTS, "texts of settings")) {
+        const QString& text = row[0];
         SaveSetting(kApplication, "Params", "Value", text);
         SaveSetting(kApplication, "Params", "After", "next");
         EXPECT_EQ(GetSetting(kApplication, "Params", "Value", "missing"), text)
