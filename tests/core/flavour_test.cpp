@@ -37,11 +37,8 @@ TEST_F(Flavour, NineLinesReplaceAllDefaults) {
     EXPECT_TRUE(LoadBytes(Scrambled(kNineLines)));
     EXPECT_TRUE(IsRealEstateFlavour());
     EXPECT_FALSE(IsGenericFlavour());
-    EXPECT_EQ(AppName, "Zandora");
-    EXPECT_EQ(ProdSing, "Vivienda");
-    EXPECT_EQ(ProdPlur, "Viviendas");
-    EXPECT_EQ(ProdGender, "F");
-    EXPECT_EQ(CategoryCaption, "Población-Zona");
+    EXPECT_EQ((QStringList{AppName, ProdSing, ProdPlur, ProdGender, CategoryCaption}.join('|')),
+              "Zandora|Vivienda|Viviendas|F|Población-Zona");
     EXPECT_EQ(CategoryTip, "Zona de %PPROSING% %PRODSING%");
     EXPECT_EQ(LogoCaption, "[N/A]");
 }

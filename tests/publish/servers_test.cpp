@@ -100,13 +100,6 @@ std::string NameOfKind(const testing::TestParamInfo<ServerKind>& info) {
     return kKinds[static_cast<int>(info.param)];
 }
 
-// The servers that can be told to do without things.
-class PliantServersTest : public ServersTest {};
-
-INSTANTIATE_TEST_SUITE_P(All, PliantServersTest,
-                         testing::Values(ServerKind::Pyftpdlib, ServerKind::ProFTPD,
-                                         ServerKind::Vsftpd),
-                         NameOfKind);
 INSTANTIATE_TEST_SUITE_P(All, ServersTest,
                          testing::Values(ServerKind::Pyftpdlib, ServerKind::ProFTPD,
                                          ServerKind::Vsftpd, ServerKind::PureFTPd),
@@ -202,18 +195,6 @@ TEST_P(ServersTest, PathsAreTakenFromWhereTheLogInLeadsAlsoAnonymously) {
         EXPECT_EQ(server.Files(place.folder), AsStored(files)) << place.path;
     }
     EXPECT_EQ(boxes.Texts().toStdString(), "");
-}
-
-TEST_P(PliantServersTest, AServerWithoutExtendedPassiveModeIsAskedForItOnce) {
-    ServerChoices choices;
-    choices.extendedPassive = false;
-    Start(choices);
-    std::vector<OutputFile> files = {File("a.html", "one"), File("b.html", "two")};
-    EXPECT_TRUE(Send("", files));
-    EXPECT_EQ(boxes.Texts().toStdString(), "");
-    EXPECT_EQ(CountCommands()["EPSV"], 1);
-    EXPECT_EQ(CountCommands()["PASV"], 2);
-    EXPECT_EQ(server.Files(""), AsStored(files));
 }
 
 TEST_P(ServersTest, AddressesOfVersion6Work) {

@@ -224,7 +224,6 @@ QStringList RealServer::PreparePyftpdlib(int port, const ServerChoices& choices)
             choices.host,
             QString::number(port),
             QString::number(port + kPassivePorts),
-            choices.extendedPassive ? "1" : "0",
             folder.filePath("home"),
             folder.filePath("commands.log"),
             kServerUser,
@@ -259,21 +258,16 @@ QStringList RealServer::PrepareProFTPD(int port, const ServerChoices& choices) {
     const QByteArray rest =
         QByteArray(":") + kPasswordHash + ":" + ids + "::" + OnDisk({}) + ":/bin/sh\n";
     Write("accounts", QByteArray(kServerUser) + rest + "anonymous" + rest);
-    const QByteArray more = choices.littleRoom ? kSmallFiles : "";
-    const QByteArray passive = "MasqueradeAddress 10.0.0.9\n<Limit EPSV>\nDenyAll\n</Limit>\n";
     return {CopyProgram("proftpd"), "-n", "-c",
-            WriteSettings("proftpd.conf", port, choices,
-                          more + (choices.extendedPassive ? "" : passive))};
+            WriteSettings("proftpd.conf", port, choices, choices.littleRoom ? kSmallFiles : "")};
 }
 
 QStringList RealServer::PrepareVsftpd(int port, const ServerChoices& choices) {
     const QByteArray listen = choices.host.contains(':')
                                   ? "listen=NO\nlisten_ipv6=YES\nlisten_address6="
                                   : "listen=YES\nlisten_address=";
-    const QByteArray passive = "cmds_denied=EPSV\npasv_address=10.0.0.9\n";
     return {CopyProgram("vsftpd"),
-            WriteSettings("vsftpd.conf", port, choices,
-                          listen + choices.host + "\n" + (choices.extendedPassive ? "" : passive))};
+            WriteSettings("vsftpd.conf", port, choices, listen + choices.host + "\n")};
 }
 
 QStringList RealServer::PreparePureFTPd(int port, const ServerChoices& choices) {

@@ -18,10 +18,7 @@ inline constexpr char kServerPassword[] = "cláve ñ@/:%";
 
 struct ServerChoices {
     QByteArray host = "127.0.0.1"; // or "::1"
-    // EPSV is known, as always by Pure-FTPd. Otherwise the address that PASV names is one that only
-    // the server's own network knows.
-    bool extendedPassive = true;
-    bool littleRoom = false; // 300,000 bytes at the most
+    bool littleRoom = false;       // 300,000 bytes at the most
 };
 
 class RealServer {

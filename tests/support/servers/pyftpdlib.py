@@ -3,7 +3,7 @@ import logging, sys
 from pyftpdlib.authorizers import DummyAuthorizer
 from pyftpdlib.handlers import FTPHandler
 from pyftpdlib.servers import FTPServer
-host, port, last, extended, home, log, user, password = sys.argv[1:]
+host, port, last, home, log, user, password = sys.argv[1:]
 class Handler(FTPHandler):
     def decode(self, bytes):
         return bytes.decode("cp1252")
@@ -13,9 +13,6 @@ authorizer.add_anonymous(home, perm="elradfmw")
 Handler.authorizer = authorizer
 Handler.auth_failed_timeout = 0
 Handler.passive_ports = range(int(port) + 1, int(last))
-if extended == "0":
-    Handler.masquerade_address = "10.0.0.9"
-    del Handler.proto_cmds["EPSV"]
 logging.basicConfig(filename=log, level=logging.DEBUG, format="%(message)s",
                     encoding="utf8")
 FTPServer((host, int(port)), Handler).serve_forever()
