@@ -131,6 +131,7 @@ protected:
             WriteFile(StagingFile(), dialogue.staged);
         }
         EXPECT_TRUE(!dialogue.check || ConnectFTP());
+        scripted.Record(); // returns when the server has said all that goes with its last answer
         const bool result = SendFiles(files);
         EndSession();
         FTPRequestTimeout = 20;

@@ -291,7 +291,7 @@ QStringList RealServer::PreparePureFTPd(int port, const ServerChoices& choices) 
 
 // Into the server's folder, since its user may not reach the build's.
 QString RealServer::CopyProgram(const QString& name) {
-    const QString copy = folder.filePath(name);
+    QString copy = folder.filePath(name);
     QFile::copy(Program("sbin/" + name), copy);
     chmod(copy.toUtf8().constData(), 0755);
     return copy;
