@@ -59,7 +59,7 @@ private:
     void AcceptFile();
     void Happen(const QByteArray& line, const QByteArray& verb);
     void LookAtFile();
-    void Say(QByteArray reply);
+    void Say(QByteArray reply, bool deaf);
 
     QTcpServer passive{this};
     QPointer<QTcpSocket> session;
@@ -157,12 +157,10 @@ void FtpSessions::Advance() {
         const QByteArray line = script.takeFirst();
         record.transcript += line;
         if (line[0] == '<') {
-            Say(Unescaped(line.mid(2)));
+            Say(Unescaped(line.mid(2)), script.value(0) == "! deaf");
         } else if (line == "! close") {
             session->disconnectFromHost();
-        } else if (line == "! deaf") {
-            passive.close();
-        } else {
+        } else if (line != "! deaf") {
             Reset(transfer);
             Reset(line == "! reset" ? session : nullptr);
         }
@@ -170,13 +168,17 @@ void FtpSessions::Advance() {
     LookAtFile();
 }
 
-void FtpSessions::Say(QByteArray reply) {
+// A port that nobody shall find open is closed before it is told.
+void FtpSessions::Say(QByteArray reply, bool deaf) {
     if (reply.contains("PORT")) {
         received.clear();
         transfer = nullptr;
         passive.close();
         passive.listen(QHostAddress::LocalHost);
         const int port = passive.serverPort();
+        if (deaf) {
+            passive.close();
+        }
         const QByteArray low = QByteArray::number(port % 256);
         reply.replace("PORT,PORT", QByteArray::number(port / 256) + ',' + low);
         reply.replace("PORT", QByteArray::number(port));
