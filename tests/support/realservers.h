@@ -48,15 +48,6 @@ public:
     bool KeepsCommands() const { return kind != ServerKind::PureFTPd; }
 
 private:
-    QStringList Prepare(int port, const ServerChoices& choices);
-    QStringList PreparePyftpdlib(int port, const ServerChoices& choices);
-    QStringList PrepareProFTPD(int port, const ServerChoices& choices);
-    QStringList PrepareVsftpd(int port, const ServerChoices& choices);
-    QStringList PreparePureFTPd(int port, const ServerChoices& choices);
-    QString WriteSettings(const QString& name, int port, const ServerChoices& choices,
-                          const QByteArray& more);
-    QString CopyProgram(const QString& name);
-    QString Write(const char* name, const QByteArray& content);
     QByteArray OnDisk(const QString& path) const;
 
     ServerKind kind;

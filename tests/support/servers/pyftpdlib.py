@@ -1,4 +1,4 @@
-# An FTP server for the tests, started by realservers.cpp with its place and its visitor.
+# An FTP server for the tests, started by start.sh with its place and its visitor.
 import logging, sys
 from pyftpdlib.authorizers import DummyAuthorizer
 from pyftpdlib.handlers import FTPHandler
