@@ -23,45 +23,25 @@ QString RoomOf(const QString& path) {
     return path.section(u'.', 0, 0);
 }
 
-void AddIncludes(const QString& file, const QString& text, std::vector<Use>& uses) {
-    static const QRegularExpression kInclude(R"re(^\s*#\s*include\s*"([^"]+)\.h")re");
-    const QStringList lines = text.split(u'\n');
-    for (int line = 0; line < lines.size(); ++line) {
-        const QRegularExpressionMatch match = kInclude.match(lines[line]);
-        if (match.hasMatch()) {
-            uses.push_back({file, line + 1, match.captured(1)});
-        }
+// All that `need` captures in a file.
+void AddUses(const QString& file, const QString& text, const QRegularExpression& need,
+             std::vector<Use>& uses) {
+    for (const QRegularExpressionMatch& match : need.globalMatch(text)) {
+        const auto line = text.left(match.capturedStart(1)).count(u'\n') + 1;
+        uses.push_back({file, static_cast<int>(line), match.captured(1)});
     }
 }
 
-// The libraries behind USES in the description of a wing.
-void AddLibraries(const QString& file, const QString& text, std::vector<Use>& uses) {
-    static const QRegularExpression kWord(R"re([\w:]+)re");
-    const QStringList lines = text.split(u'\n');
-    bool listed = false;
-    for (int line = 0; line < lines.size(); ++line) {
-        auto words = kWord.globalMatch(lines[line].section(u'#', 0, 0));
-        while (words.hasNext()) {
-            const QString word = words.next().captured();
-            if (listed) {
-                uses.push_back({file, line + 1, word});
-            }
-            listed = listed || word == u"USES";
-        }
-        listed = listed && !lines[line].contains(u')');
-    }
-}
-
-// Includes first, then libraries.
+// Includes first, then the libraries behind USES in the description of each wing.
 std::vector<Use> ReadUses(const SourceTexts& texts) {
+    static const QRegularExpression kInclude(R"re(^\s*#\s*include\s*"([^"]+)\.h")re",
+                                             QRegularExpression::MultilineOption);
+    static const QRegularExpression kLibrary(R"re((?:\bUSES|(?!\A)\G)(?:\s|#[^\n]*)+([\w:]+))re");
     std::vector<Use> uses;
     std::vector<Use> libraries;
     for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        if (text.key().endsWith(u".txt")) {
-            AddLibraries(text.key(), *text, libraries);
-        } else {
-            AddIncludes(text.key(), *text, uses);
-        }
+        const bool isWing = text.key().endsWith(u".txt");
+        AddUses(text.key(), *text, isWing ? kLibrary : kInclude, isWing ? libraries : uses);
     }
     uses.insert(uses.end(), libraries.begin(), libraries.end());
     return uses;
@@ -94,64 +74,47 @@ void FindArrowsUp(const QMap<QString, int>& floors, const std::vector<Use>& uses
     }
 }
 
-// Walks from room to room along the includes and tells each way that comes back to where it began.
-class CircleSearch {
-public:
-    explicit CircleSearch(const std::vector<Use>& uses) {
-        for (const Use& use : uses) {
-            if (RoomOf(use.file) != use.target) {
-                includes[RoomOf(use.file)].push_back(use);
-            }
+// Takes away each include from which no room leads on or to which none leads, until nothing but
+// circles is left. One through several folders has an arrow up, which is told by itself.
+void FindCircles(std::vector<Use> includes, QStringList& faults) {
+    for (size_t before = 0; before != includes.size();) {
+        before = includes.size();
+        QSet<QString> from;
+        QSet<QString> to;
+        for (const Use& use : includes) {
+            from.insert(RoomOf(use.file));
+            to.insert(use.target);
         }
+        std::erase_if(includes, [&](const Use& use) {
+            const QString room = RoomOf(use.file);
+            return room == use.target || FolderOf(room) != FolderOf(use.target) ||
+                   !from.contains(use.target) || !to.contains(room);
+        });
     }
-
-    void Find(QStringList& faults) {
-        for (const QString& room : includes.keys()) {
-            Visit(room, faults);
-        }
+    QStringList needs;
+    for (const Use& use : includes) {
+        needs += use.Place() + " needs " + use.target;
     }
-
-private:
-    void Visit(const QString& room, QStringList& faults) {
-        if (done.contains(room)) {
-            return;
-        }
-        done.insert(room);
-        onWay.push_back(room);
-        for (const Use& use : includes.value(room)) {
-            way.push_back(use.Place() + " needs " + use.target);
-            const qsizetype start = onWay.indexOf(use.target);
-            if (start >= 0) {
-                faults += "a circle: " + way.mid(start).join(", ");
-            }
-            Visit(use.target, faults);
-            way.pop_back();
-        }
-        onWay.pop_back();
+    if (!needs.isEmpty()) {
+        faults += "a circle: " + needs.join(", ");
     }
-
-    QMap<QString, QList<Use>> includes;
-    QSet<QString> done;
-    QStringList onWay; // rooms from the start to here
-    QStringList way;   // the include that leads on from each of them
-};
+}
 
 void CompareFolders(const QMap<QString, int>& floors, const SourceTexts& texts,
                     QStringList& faults) {
-    QSet<QString> folders;
+    QMap<QString, int> folders;
     for (const QString& path : texts.keys()) {
-        folders.insert(FolderOf(path));
+        folders[FolderOf(path)];
+        if (!floors.contains(FolderOf(path))) {
+            faults += FolderOf(path) + "/ has sources and no row in the table";
+        }
     }
     for (const QString& folder : floors.keys()) {
         if (!folders.contains(folder)) {
             faults += "the table has " + folder + "/, which has no sources";
         }
     }
-    for (const QString& folder : QStringList(folders.begin(), folders.end())) {
-        if (!floors.contains(folder)) {
-            faults += folder + "/ has sources and no row in the table";
-        }
-    }
+    faults.removeDuplicates();
 }
 
 } // namespace
@@ -173,6 +136,6 @@ QStringList FindHouseFaults(const QMap<QString, int>& floors, const SourceTexts&
     QStringList faults;
     CompareFolders(floors, texts, faults);
     FindArrowsUp(floors, uses, faults);
-    CircleSearch(uses).Find(faults);
+    FindCircles(uses, faults);
     return faults;
 }

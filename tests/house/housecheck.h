@@ -19,5 +19,6 @@ using SourceTexts = QMap<QString, QString>;
 // - an include, or a library that is linked to, of a folder on the same or a later floor; where
 // that
 //   one includes the first too, its line is named beside it;
-// - rooms (a .h and .cpp pair) that include each other, straight or round a corner.
+// - rooms (a .h and .cpp pair) of a folder that include each other, straight or round a corner, and
+//   what leads from one such circle to another.
 QStringList FindHouseFaults(const QMap<QString, int>& floors, const SourceTexts& texts);
