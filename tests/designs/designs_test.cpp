@@ -3,6 +3,7 @@
 #include "publish/generate.h"
 #include "tests/designs/sitechecks.h"
 #include "tests/support/catalogue.h"
+#include "tests/support/files.h"
 #include "tests/support/userhome.h"
 #include "text/ansi.h"
 
@@ -66,6 +67,53 @@ void ExpectWhole(const QDir& site) {
     EXPECT_EQ(FindMalformedPages(site).join('\n').toStdString(), "");
 }
 
+// A catalogue whose pages are made as the preview makes them.
+class Previews {
+public:
+    explicit Previews(const char* rows) : catalogue(rows) {
+        SetUserLangs("ES|EN", "ES");
+        SetUICurrentLang("ES");
+    }
+
+    QString Text(const PreviewRequest& request, const QString& design) {
+        const QString page = GeneratePreviewPage(request, design, catalogue.Snapshot());
+        const QDir site = QFileInfo(page).dir();
+        EXPECT_EQ(FindTagsLeft(site).join('\n').toStdString(), "");
+        EXPECT_EQ(FindMalformedPages(site).join('\n').toStdString(), "");
+        return FromAnsi(ReadFile(page));
+    }
+
+private:
+    const MainForm form;
+    TestCatalogue catalogue;
+};
+
+// Quotes in a title are in attributes, in headings and, on the sheet, beside a picture.
+constexpr char kCup[] = R"(
+    def; 0; T; ESMarca#ENBrand
+    def; 1; T; ESMaterial#ENMaterial
+    def; 2; B; ESA mano#ENHandmade
+    def; 3; O; ESColor#ENColour; ESRojo#ENRed|ESVerde#ENGreen
+    product; 10001; T-1; 12.5; 0; Centro; 2024-01-01T00:00:00
+    fields; 10001; ; Gres; 0; 1
+    textdef; Products; 0; ShortDesc
+    textdef; Products; 1; LongDesc
+    textdef; Products; 2; Category
+    text; Products; 10001; ES; 0; Taza "Duna" d'or
+    text; Products; 10001; EN; 0; Mug)";
+
+constexpr char kHomes[] = R"(
+    def; 0; T; ESSuperficie#ENFloor area
+    def; 1; O; ESTipo#ENType; ESPisos#ENFlats|ESAlquiler#ENTo let
+    product; 10001; T-1; 850; 0; Oliva-"Racons"; 2024-01-01T00:00:00
+    fields; 10001; 1.200; 1
+    product; 10002; T-2; 85000; 0; L'Alfàs; 2024-01-01T00:00:00
+    fields; 10002; 90; 0
+    product; 10003; T-3; 700; 0; L'Alfàs; 2024-01-01T00:00:00
+    fields; 10003; ; 1
+    textdef; Products; 0; ShortDesc
+    textdef; Products; 1; LongDesc)";
+
 } // namespace
 
 TEST(Designs, EveryDesignMakesAWholeSiteOfEverySample) {
@@ -86,63 +134,22 @@ TEST(Designs, EveryDesignMakesAWholeSiteOfEverySample) {
     }
 }
 
-// Quotes in a title are in attributes, in headings and, on the sheet, beside a picture.
 TEST(Designs, PagesOfAProductTakeQuotesAndItsSheetShowsValuesWithoutGaps) {
-    const MainForm form;
-    TestCatalogue catalogue("def; 0; T; ESMarca#ENBrand\n"
-                            "def; 1; T; ESMaterial#ENMaterial\n"
-                            "def; 2; B; ESA mano#ENHandmade\n"
-                            "def; 3; O; ESColor#ENColour; ESRojo#ENRed|ESVerde#ENGreen\n"
-                            "product; 10001; T-1; 12.5; 0; Centro; 2024-01-01T00:00:00\n"
-                            "field; 10001; 0;\n"
-                            "field; 10001; 1; Gres\n"
-                            "field; 10001; 2; 0\n"
-                            "field; 10001; 3; 1\n"
-                            "textdef; Products; 0; ShortDesc\n"
-                            "textdef; Products; 1; LongDesc\n"
-                            "textdef; Products; 2; Category\n"
-                            "text; Products; 10001; ES; 0; Taza \"Duna\" d'or\n"
-                            "text; Products; 10001; EN; 0; Mug");
-    SetUserLangs("ES|EN", "ES");
-    SetUICurrentLang("ES");
+    Previews previews(kCup);
     QTemporaryDir packed;
     for (const QString& design : FoldersOf(DESIGNS_FOLDER)) {
         SCOPED_TRACE(design.toStdString());
-        const QString packedDesign = Pack(design, packed);
-        QString page;
-        for (const PreviewPage kind : {PreviewPage::Product, PreviewPage::Layout}) {
-            page = GeneratePreviewPage({kind, "10001"}, packedDesign, catalogue.Snapshot());
-            EXPECT_EQ(FindTagsLeft(QFileInfo(page).dir()).join('\n').toStdString(), "");
-            EXPECT_EQ(FindMalformedPages(QFileInfo(page).dir()).join('\n').toStdString(), "");
-        }
-        QFile file(page);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << page.toStdString();
-        const QString text = QString::fromLatin1(file.readAll());
-        EXPECT_EQ(text.count("<tr><td>"), 2);
-        EXPECT_TRUE(text.contains("<tr><td>Gres</td><th scope='row'>Material</th></tr>"));
-        EXPECT_TRUE(text.contains("<tr><td>Verde</td><th scope='row'>Color</th></tr>"));
+        const QString file = Pack(design, packed);
+        previews.Text({PreviewPage::Product, "10001"}, file);
+        const QString sheet = previews.Text({PreviewPage::Layout, "10001"}, file);
+        EXPECT_EQ(sheet.count("<tr><td>"), 2);
+        EXPECT_TRUE(sheet.contains("<tr><td>Gres</td><th scope='row'>Material</th></tr>"));
+        EXPECT_TRUE(sheet.contains("<tr><td>Verde</td><th scope='row'>Color</th></tr>"));
     }
 }
 
-constexpr char kHomes[] = "def; 0; T; ESSuperficie#ENFloor area\n"
-                          "def; 1; O; ESTipo#ENType; ESPisos#ENFlats|ESAlquiler#ENTo let\n"
-                          "product; 10001; T-1; 850; 0; Oliva-\"Racons\"; 2024-01-01T00:00:00\n"
-                          "field; 10001; 0; 1.200\n"
-                          "field; 10001; 1; 1\n"
-                          "product; 10002; T-2; 85000; 0; L'Alfàs; 2024-01-01T00:00:00\n"
-                          "field; 10002; 0; 90\n"
-                          "field; 10002; 1; 0\n"
-                          "product; 10003; T-3; 700; 0; L'Alfàs; 2024-01-01T00:00:00\n"
-                          "field; 10003; 0;\n"
-                          "field; 10003; 1; 1\n"
-                          "textdef; Products; 0; ShortDesc\n"
-                          "textdef; Products; 1; LongDesc";
-
 TEST(Designs, HomesOfTheAgencyShowRentsByTheMonthAndSizesInMetres) {
-    const MainForm form;
-    TestCatalogue catalogue(kHomes);
-    SetUserLangs("ES|EN", "ES");
-    SetUICurrentLang("ES");
+    Previews previews(kHomes);
     QTemporaryDir packed;
     const QString design = Pack("inmobiliaria", packed);
     const struct {
@@ -162,13 +169,7 @@ TEST(Designs, HomesOfTheAgencyShowRentsByTheMonthAndSizesInMetres) {
         {{PreviewPage::Layout, "10003"}, "</span> €<span class=\"rent\">/mes</span>", ""},
     };
     for (const auto& [request, rent, size] : cases) {
-        SCOPED_TRACE(request.productId.toStdString());
-        const QString page = GeneratePreviewPage(request, design, catalogue.Snapshot());
-        QFile file(page);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << page.toStdString();
-        const QString text = FromAnsi(file.readAll());
-        EXPECT_TRUE(text.contains(rent)) << text.toStdString();
-        EXPECT_TRUE(text.contains(size)) << text.toStdString();
-        EXPECT_EQ(FindMalformedPages(QFileInfo(page).dir()).join('\n').toStdString(), "");
+        const QString text = previews.Text(request, design);
+        EXPECT_TRUE(text.contains(rent) && text.contains(size)) << text.toStdString();
     }
 }

@@ -1,16 +1,15 @@
 #include "tests/designs/sitechecks.h"
 
+#include "tests/support/files.h"
 #include "text/ansi.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
 namespace {
 
 QString ReadSiteFile(const QDir& site, const QString& name) {
-    QFile file(site.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? FromAnsi(file.readAll()) : QString();
+    return FromAnsi(ReadFile(site.filePath(name)));
 }
 
 // Addresses in an attribute: several in srcset, one anywhere else.
