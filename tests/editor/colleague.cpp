@@ -9,8 +9,8 @@
 //   picture PATH      adds a picture to the product in the editor: "picture ID"
 //   unpicture         deletes its first picture: "unpicture ID"
 //   compact           closes the store, compacts and opens it: "compacted CODE"
-//   arm N             the process dies at its N-th write from here on (killer.cpp): "armed"
-//   left              of those writes: their number
+//   arm N             the process dies at its N-th write from here on (killer.cpp): how many
+//                     writes were left of those armed before
 //   random SEED N     N random edits (twousers_test.cpp): their outcomes, a line each, then "done"
 #include "core/settings.h"
 #include "editor/productlist.h"
@@ -26,7 +26,6 @@
 #include "tests/support/boxes.h"
 #include "tests/support/program.h"
 
-#include <QDir>
 #include <dlfcn.h>
 #include <functional>
 #include <iostream>
@@ -98,14 +97,10 @@ QString Compact() {
     return OpenStore() == 0 ? "compacted " + QString::number(code) : QString("lost");
 }
 
-// Routines of killer.cpp, where it is loaded.
-template <class Routine> Routine Killer(const char* name) {
-    return reinterpret_cast<Routine>(dlsym(RTLD_DEFAULT, name));
-}
-
+// By killer.cpp, where it is loaded.
 QString Arm(int writes) {
-    Killer<void (*)(int)>("ArmKiller")(writes);
-    return "armed";
+    const auto arm = reinterpret_cast<int (*)(int)>(dlsym(RTLD_DEFAULT, "ArmKiller"));
+    return QString::number(arm(writes));
 }
 
 void Say(const QString& answer) {
@@ -144,7 +139,6 @@ QString Obey(const QString& order, const QStringList& words) {
         {"unpicture", DeleteFile},
         {"compact", Compact},
         {"arm", [&] { return Arm(rest.toInt()); }},
-        {"left", [] { return QString::number(Killer<int (*)()>("KillerLeft")()); }},
         {"random", [&] { return RandomEdits(words[0].toUInt(), words[1].toInt()); }},
     };
     return orders[order]();
@@ -153,14 +147,6 @@ QString Obey(const QString& order, const QStringList& words) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // Goes with the catalogue, however this process ends.
-    const QByteArray home = QByteArray(argv[1]) + "colleague";
-    QDir().mkpath(QString::fromLocal8Bit(home));
-    QFile::setPermissions(QString::fromLocal8Bit(home),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    qputenv("XDG_CONFIG_HOME", home);
-    qputenv("XDG_RUNTIME_DIR", home);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     Application application(argc, argv);
     LoadSettings();

@@ -11,6 +11,9 @@ constexpr int kLimit = 60000; // milliseconds for one answer
 
 ColleagueProcess::ColleagueProcess(const QString& folder, bool killer) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // What it leaves there goes with the catalogue, however it ends.
+    environment.insert("XDG_CONFIG_HOME", folder);
+    environment.insert("XDG_RUNTIME_DIR", folder);
     if (killer) {
         // By name, since a path with blanks would count as several.
         const QFileInfo library(KILLER);
@@ -33,12 +36,7 @@ ColleagueProcess::~ColleagueProcess() {
 
 QString ColleagueProcess::Ask(const QString& line) {
     Send(line);
-    while (!process.canReadLine()) {
-        if (!process.waitForReadyRead(kLimit)) {
-            return {};
-        }
-    }
-    return QString::fromUtf8(process.readLine()).chopped(1);
+    return Hear();
 }
 
 void ColleagueProcess::Kill() {
@@ -53,14 +51,17 @@ void ColleagueProcess::Send(const QString& line) {
 
 QStringList ColleagueProcess::AnswersUntil(const QString& last) {
     QStringList answers;
-    while (answers.isEmpty() || answers.last() != last) {
-        while (!process.canReadLine()) {
-            if (!process.waitForReadyRead(kLimit)) {
-                ADD_FAILURE() << "no answer after " << qPrintable(answers.join(u'|'));
-                return answers;
-            }
-        }
-        answers += QString::fromUtf8(process.readLine()).chopped(1);
-    }
+    do {
+        answers += Hear();
+    } while (answers.last() != last && !answers.last().isEmpty());
+    EXPECT_EQ(answers.last(), last) << "after " << qPrintable(answers.join(u'|'));
     return answers;
+}
+
+QString ColleagueProcess::Hear() {
+    while (!process.canReadLine() && process.waitForReadyRead(kLimit)) {
+    }
+    QString answer = QString::fromUtf8(process.readLine());
+    answer.chop(1);
+    return answer;
 }

@@ -21,5 +21,7 @@ public:
     QStringList AnswersUntil(const QString& last);
 
 private:
+    QString Hear(); // one answer
+
     QProcess process;
 };

@@ -25,35 +25,32 @@ bool IsFile(int descriptor) {
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
-template <class Routine> Routine Real(const char* name) {
-    return reinterpret_cast<Routine>(dlsym(RTLD_NEXT, name));
+// What the system does for `name`.
+template <class Result, class... Values> Result Do(const char* name, Values... values) {
+    return reinterpret_cast<Result (*)(Values...)>(dlsym(RTLD_NEXT, name))(values...);
+}
+
+template <class Result, class... Values> Result Counted(const char* name, Values... values) {
+    Count();
+    return Do<Result>(name, values...);
 }
 
 } // namespace
 
 extern "C" {
 
-void ArmKiller(int writes) {
-    left = writes;
-}
-
-// How many of the armed writes have not happened.
-int KillerLeft() {
-    return left;
+// How many of the writes armed before have not happened.
+int ArmKiller(int writes) {
+    return left.exchange(writes);
 }
 
 ssize_t write(int descriptor, const void* bytes, size_t count) {
-    static const auto real = Real<ssize_t (*)(int, const void*, size_t)>("write");
-    if (IsFile(descriptor)) {
-        Count();
-    }
-    return real(descriptor, bytes, count);
+    return IsFile(descriptor) ? Counted<ssize_t>("write", descriptor, bytes, count)
+                              : Do<ssize_t>("write", descriptor, bytes, count);
 }
 
 ssize_t pwrite64(int descriptor, const void* bytes, size_t count, off64_t offset) {
-    static const auto real = Real<ssize_t (*)(int, const void*, size_t, off64_t)>("pwrite64");
-    Count();
-    return real(descriptor, bytes, count, offset);
+    return Counted<ssize_t>("pwrite64", descriptor, bytes, count, offset);
 }
 
 ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset) {
@@ -61,32 +58,22 @@ ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset) {
 }
 
 int fsync(int descriptor) {
-    static const auto real = Real<int (*)(int)>("fsync");
-    Count();
-    return real(descriptor);
+    return Counted<int>("fsync", descriptor);
 }
 
 int fdatasync(int descriptor) {
-    static const auto real = Real<int (*)(int)>("fdatasync");
-    Count();
-    return real(descriptor);
+    return Counted<int>("fdatasync", descriptor);
 }
 
 int ftruncate64(int descriptor, off64_t size) noexcept {
-    static const auto real = Real<int (*)(int, off64_t)>("ftruncate64");
-    Count();
-    return real(descriptor, size);
+    return Counted<int>("ftruncate64", descriptor, size);
 }
 
 int unlink(const char* path) noexcept {
-    static const auto real = Real<int (*)(const char*)>("unlink");
-    Count();
-    return real(path);
+    return Counted<int>("unlink", path);
 }
 
 int rename(const char* from, const char* to) noexcept {
-    static const auto real = Real<int (*)(const char*, const char*)>("rename");
-    Count();
-    return real(from, to);
+    return Counted<int>("rename", from, to);
 }
 }

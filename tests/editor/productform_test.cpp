@@ -12,6 +12,9 @@
 
 namespace {
 
+constexpr char kMarks[] = "El campo Referencia debe estar formado por letras, numéros y/o los "
+                          "caracteres guión(-) o guión bajo(_)";
+
 QString FocusName() {
     ReturnToWindow();
     return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName()
@@ -19,7 +22,6 @@ QString FocusName() {
 }
 
 void ChooseFeatured() {
-    frmMain->cboIsNew->setFocus();
     PressKey(frmMain->cboIsNew, Qt::Key_Home);
     PressKey(frmMain->cboIsNew, Qt::Key_Down);
 }
@@ -36,12 +38,8 @@ TEST(ProductForm, AReferenceIsAcceptedOrRefusedWithItsReason) {
         {"ab-1", "AB-1", ""},
         {"A123456_89", "A123456_89", ""},
         {"A123456_890", "A123456_890", "El campo Referencia debe tener como máximo 10 caracteres"},
-        {"a b", "A B",
-         "El campo Referencia debe estar formado por letras, numéros y/o los caracteres guión(-) o "
-         "guión bajo(_)"},
-        {"Ñ", "Ñ",
-         "El campo Referencia debe estar formado por letras, numéros y/o los caracteres guión(-) o "
-         "guión bajo(_)"},
+        {"a b", "A B", kMarks},
+        {"Ñ", "Ñ", kMarks},
         {"", "", "El campo Referencia es obligatorio"},
         {"b-2", "B-2",
          "Ya existe un registro con la Referencia B-2\n\nEs necesaria una Referencia que "
@@ -88,27 +86,28 @@ TEST(ProductForm, APriceChangesItsLookWithTheFocusAndMustBeANumber) {
 
 TEST(ProductForm, EnterLeadsFromBoxToBox) {
     const TestProgram program;
-    struct {
-        const char* from;
-        const char* to;
-    } const moves[] = {{"txtProductRef", "txtMLFields_0"}, {"txtMLFields_0", "txtFields_0"},
-                       {"txtFields_0", "chkFields_1"},     {"chkFields_1", "cboFields_2"},
-                       {"cboFields_2", "txtMLFields_0"},   {"cboIsNew", "txtMLFields_0"},
-                       {"txtPriceAmount", "cmdPictures"},  {"txtMLFields_2", "txtMLFields_1"}};
-    for (const auto& move : moves) {
-        auto* control = frmMain->findChild<QWidget*>(move.from);
-        control->setFocus();
-        PressKey(control, Qt::Key_Return);
-        EXPECT_EQ(FocusName(), move.to) << move.from;
+    const std::pair<const char*, const char*> moves[] = {
+        {"txtProductRef", "txtMLFields_0"}, {"txtMLFields_0", "txtFields_0"},
+        {"txtFields_0", "chkFields_1"},     {"chkFields_1", "cboFields_2"},
+        {"cboFields_2", "txtMLFields_0"},   {"cboIsNew", "txtMLFields_0"},
+        {"txtPriceAmount", "cmdPictures"},  {"txtMLFields_2", "txtMLFields_1"}};
+    for (const auto& [from, to] : moves) {
+        PressKey(frmMain->findChild<QWidget*>(from), Qt::Key_Return);
+        EXPECT_EQ(FocusName(), to) << from;
     }
 }
 
 TEST(ProductForm, TheDesignsLimitOfFeaturedProductsAsksBeforeTheOldestGivesWay) {
-    for (const bool yes : {false, true}) {
+    for (const auto& [yes, savedMeanwhile] :
+         {std::pair(false, false), std::pair(true, false), std::pair(true, true)}) {
         const TestProgram program;
         SetTemplate(TemplPath, 0, 1);
         BoxAnswers answers(yes ? QMessageBox::Yes : QMessageBox::No);
         ChooseFeatured();
+        if (savedMeanwhile) { // a menu takes no focus: saved before the question
+            frmMain->mnuTabs[1]->trigger();
+            frmMain->mnuTabs[0]->trigger();
+        }
         PressKey(frmMain->cboIsNew, Qt::Key_Return);
         EXPECT_EQ(answers.Texts(),
                   "La Plantilla de Diseño Web actual no permite más de 1 Productos en Portada.\n\n"
@@ -119,18 +118,6 @@ TEST(ProductForm, TheDesignsLimitOfFeaturedProductsAsksBeforeTheOldestGivesWay) 
         ClickRow(2);
         EXPECT_EQ(Stored("SELECT IsNew FROM Products ORDER BY ProductId"), yes ? "1|0|2" : "0|1|2");
     }
-}
-
-TEST(ProductForm, TheLimitAlsoAsksWhereTheProductWasSavedMeanwhile) {
-    const TestProgram program;
-    SetTemplate(TemplPath, 0, 1);
-    BoxAnswers answers(QMessageBox::Yes);
-    ChooseFeatured();
-    frmMain->mnuTabs[1]->trigger(); // a menu takes no focus: saved before the question
-    frmMain->mnuTabs[0]->trigger();
-    PressKey(frmMain->cboIsNew, Qt::Key_Return);
-    EXPECT_EQ(answers.seen.size(), 1U);
-    EXPECT_EQ(Stored("SELECT count(*) FROM Products WHERE IsNew=1"), "1");
 }
 
 TEST(ProductForm, CategoriesInUseAreSuggestedMostUsedFirstAndTakenByKeyboard) {
@@ -180,9 +167,7 @@ TEST(ProductForm, AnAgencysCategoryIsItsZone) {
 
 TEST(ProductForm, ChecksAndListsWriteTheirValue) {
     const TestProgram program;
-    frmMain->chkFields[1]->setFocus();
     PressKey(frmMain->chkFields[1], Qt::Key_Space);
-    frmMain->cboFields[2]->setFocus();
     PressKey(frmMain->cboFields[2], Qt::Key_Down);
     ClickRow(1);
     EXPECT_EQ(FieldsOf(10001), "rojo|1|1|5|frágil");

@@ -42,17 +42,13 @@ TEST(ProductList, RowsShowTextsInTheMainLanguageNullsAndStatus) {
 
 TEST(ProductList, HeadersSortAndTurnRoundAndASearchKeepsTheOrder) {
     const TestProgram program;
-    struct {
-        int column;
-        const char* references;
-    } const clicks[] = {{1, "C-3 B-2 A-1"},
-                        {1, "A-1 B-2 C-3"},
-                        {2, "A-1 C-3 B-2"},
-                        {0, "A-1 B-2 C-3"},
-                        {0, "C-3 B-2 A-1"}};
-    for (const auto& click : clicks) {
-        ClickHeader(click.column);
-        EXPECT_EQ(References(), click.references) << click.column;
+    const std::pair<int, const char*> clicks[] = {
+        {0, "C-3 B-2 A-1"}, // the very first one turns the order round
+        {1, "C-3 B-2 A-1"}, {1, "A-1 B-2 C-3"}, {2, "A-1 C-3 B-2"},
+        {0, "A-1 B-2 C-3"}, {0, "C-3 B-2 A-1"}};
+    for (const auto& [column, references] : clicks) {
+        ClickHeader(column);
+        EXPECT_EQ(References(), references) << column;
         EXPECT_EQ(frmMain->txtProductId->text(), QString::number(ProductIds[0]));
     }
     FilterProductList("PriceAmount < 1000");
@@ -63,12 +59,6 @@ TEST(ProductList, HeadersSortAndTurnRoundAndASearchKeepsTheOrder) {
     FilterProductList({});
     RefreshProductList();
     EXPECT_EQ(References(), "A-1 B-2 C-3");
-}
-
-TEST(ProductList, TheVeryFirstClickOnTheReferenceTurnsItsOrderRound) {
-    const TestProgram program;
-    ClickHeader(0);
-    EXPECT_EQ(References(), "C-3 B-2 A-1");
 }
 
 TEST(ProductList, AStatementThatCannotRunLeavesListAndEditorAlone) {
@@ -143,7 +133,6 @@ TEST(ProductList, FeaturedCountFollowsEveryChangeOfStatus) {
     } const changes[] = {{0, 1, 2}, {0, 2, 1}, {2, 1, 2}, {1, 0, 1}, {2, 0, 0}};
     for (const auto& change : changes) {
         ClickRow(change.row);
-        frmMain->cboIsNew->setFocus();
         PressKey(frmMain->cboIsNew, Qt::Key_Home);
         for (int step = 0; step < change.status; ++step) {
             PressKey(frmMain->cboIsNew, Qt::Key_Down);

@@ -25,6 +25,12 @@ QString Colour(int id) {
     return FieldsOf(id).section(u'|', 0, 0);
 }
 
+// Saves by a look at the other tab, which lets the product's row go.
+void SaveAndStay() {
+    frmMain->mnuTabs[1]->trigger();
+    frmMain->mnuTabs[0]->trigger();
+}
+
 QString ManyProducts() {
     QString rows = "def; 0; T; ESColor\n";
     for (int i = 0; i < kProducts; ++i) {
@@ -53,7 +59,6 @@ TEST(TwoUsers, TheSecondSeesAHeldProductReadOnlyAndItsEditsNeverReachTheStore) {
     EXPECT_FALSE(frmMain->Button("Del")->isEnabled());
     EXPECT_TRUE(frmMain->Button("Preview")->isEnabled());
     Type(frmMain->txtMLFields[0], "mío");
-    frmMain->cboIsNew->setFocus();
     PressKey(frmMain->cboIsNew, Qt::Key_Home);
     PressKey(frmMain->cboIsNew, Qt::Key_Return);
     ClickRow(0);
@@ -84,8 +89,7 @@ TEST(TwoUsers, TypingAfterASaveThatStayedTakesTheRowAgainWithTheOthersChanges) {
     const TestProgram program;
     ColleagueProcess colleague(program.Folder());
     Type(frmMain->txtFields[0], "ocre");
-    frmMain->mnuTabs[1]->trigger(); // saves, and lets the row go
-    frmMain->mnuTabs[0]->trigger();
+    SaveAndStay();
     EXPECT_EQ(colleague.Ask("select 10001"), "held");
     colleague.Ask("type txtMLFields_0 Sillita");
     colleague.Ask("save");
@@ -107,8 +111,7 @@ TEST(TwoUsers, TypingAfterASaveThatStayedShowsAtOnceThatTheOtherHasIt) {
         ClickRow(1);
         ClickRow(0);
         Type(frmMain->txtZone, QString("Zona de ") + box);
-        frmMain->mnuTabs[1]->trigger();
-        frmMain->mnuTabs[0]->trigger();
+        SaveAndStay();
         EXPECT_EQ(colleague.Ask("select 10001"), "held");
         Type(frmMain->findChild<QWidget*>(box), "9");
         EXPECT_TRUE(frmMain->fraReadOnly->isVisible()) << box;
@@ -122,8 +125,7 @@ TEST(TwoUsers, TypingAfterTheOtherHasDeletedTheProductMovesOn) {
     const TestProgram program;
     ColleagueProcess colleague(program.Folder());
     Type(frmMain->txtFields[0], "ocre");
-    frmMain->mnuTabs[1]->trigger();
-    frmMain->mnuTabs[0]->trigger();
+    SaveAndStay();
     EXPECT_EQ(colleague.Ask("select 10001"), "held");
     EXPECT_EQ(colleague.Ask("delete"), "deleted 10001");
     const BoxAnswers answers;

@@ -34,14 +34,7 @@ void BoxAnswers::Answer(QMessageBox* box) {
     if (button == nullptr) {
         button = box->defaultButton();
     }
-    if (button == nullptr && !box->buttons().isEmpty()) {
-        button = box->buttons().first();
-    }
-    if (button != nullptr) {
-        button->click();
-    } else {
-        box->reject();
-    }
+    (button != nullptr ? button : box->buttons().first())->click();
 }
 
 void ChoosePath(QFileDialog* dialog, const QString& path) {

@@ -74,21 +74,16 @@ int FtpRecord::Count(const QByteArray& verb) const {
         }));
 }
 
-FtpServer::FtpServer() : sessions(new FtpSessions) {
+FtpServer::FtpServer(const QList<QByteArray>& script) : sessions(new FtpSessions) {
     sessions->answers = kUsualAnswers;
+    sessions->script = script;
+    sessions->strict = !script.isEmpty();
     sessions->moveToThread(&thread);
     QObject::connect(&thread, &QThread::finished, sessions, &QObject::deleteLater);
     thread.start();
     Do([this] {
         sessions->Listen();
         port = sessions->control.serverPort();
-    });
-}
-
-FtpServer::FtpServer(const QList<QByteArray>& script) : FtpServer() {
-    Do([&] {
-        sessions->script = script;
-        sessions->strict = true;
     });
 }
 

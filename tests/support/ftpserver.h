@@ -33,11 +33,9 @@ class FtpSessions;
 
 class FtpServer {
 public:
-    // One that does what it is asked, whatever the order.
-    FtpServer();
-
-    // One that follows a script to its end, and hangs up where somebody doesn't.
-    explicit FtpServer(const QList<QByteArray>& script);
+    // Follows a script to its end, and hangs up where somebody doesn't. Without one it does what it
+    // is asked, whatever the order.
+    explicit FtpServer(const QList<QByteArray>& script = {});
 
     ~FtpServer();
     FtpServer(const FtpServer&) = delete;

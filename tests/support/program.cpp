@@ -43,29 +43,17 @@ const char kSmallCatalogue[] = R"(
 
 namespace {
 
-constexpr char kTemporary[] = "TMPDIR"; // where temporary folders are made
-constexpr char kMemoryFolder[] = "/dev/shm";
-
-// The flavour file of the agencies, as the program reads it.
-QByteArray AgencyFile() {
-    QByteArray bytes = "ZAND\r\nINMO\r\nZandora\r\nInmueble\r\nInmuebles\r\nM\r\nZona\r\nZona del "
-                       "inmueble\r\n[N/A]\r\n";
-    for (char& byte : bytes) {
-        byte = static_cast<char>(~byte);
-    }
-    return bytes + '\0';
-}
-
+// With the flavour file of the agencies, or with none.
 void ChooseTrade(Trade trade) {
     QTemporaryDir folder;
     if (trade == Trade::RealEstate) {
-        WriteFile(folder.filePath("sector.dat"), AgencyFile());
+        QByteArray file =
+            "ZAND\r\nINMO\r\nZandora\r\nInmueble\r\nInmuebles\r\nM\r\nZona\r\nZona del "
+            "inmueble\r\n[N/A]\r\n";
+        std::transform(file.begin(), file.end(), file.begin(), std::bit_not<char>());
+        WriteFile(folder.filePath("sector.dat"), file + '\0');
     }
     LoadFlavour(folder.path() + u'/');
-}
-
-QString FieldText(const Recordset& row, int column) {
-    return IsNull(row.Value(column)) ? QStringLiteral("NULL") : row.Text(column);
 }
 
 } // namespace
@@ -100,23 +88,15 @@ void EndScreens() {
     ResetProductList();
 }
 
-MemoryDisk::MemoryDisk() : before(qgetenv(kTemporary)) {
+MemoryDisk::MemoryDisk() {
+    constexpr char kMemoryFolder[] = "/dev/shm";
     if (QFileInfo(kMemoryFolder).isWritable()) {
-        qputenv(kTemporary, kMemoryFolder);
+        qputenv("TMPDIR", kMemoryFolder);
     }
 }
 
-MemoryDisk::~MemoryDisk() {
-    if (before.isEmpty()) {
-        qunsetenv(kTemporary);
-    } else {
-        qputenv(kTemporary, before);
-    }
-}
-
-TestProgram::TestProgram(const QString& rows, Trade trade)
-    : catalogue(std::make_unique<TestCatalogue>(rows)) {
-    StartScreens(catalogue->Folder(), trade);
+TestProgram::TestProgram(const QString& rows, Trade trade) : catalogue(rows) {
+    StartScreens(catalogue.Folder(), trade);
 }
 
 TestProgram::~TestProgram() {
@@ -149,6 +129,7 @@ void TypeOn(QWidget* box, const QString& text) {
 
 void PressKey(QWidget* box, int key) {
     ReturnToWindow();
+    box->setFocus();
     QTest::keyClick(box, static_cast<Qt::Key>(key));
 }
 
@@ -226,7 +207,7 @@ QString Stored(const QString& statement) {
     for (; cursor.HasRow(); cursor.MoveNext()) {
         QStringList fields;
         for (int column = 0; column < cursor.ColumnCount(); ++column) {
-            fields += FieldText(cursor, column);
+            fields += IsNull(cursor.Value(column)) ? QStringLiteral("NULL") : cursor.Text(column);
         }
         rows += fields.join(u';');
     }

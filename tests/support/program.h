@@ -7,7 +7,6 @@
 
 #include <QString>
 #include <functional>
-#include <memory>
 #include <string>
 
 class QWidget;
@@ -23,15 +22,10 @@ void EndScreens();
 // Spanish and English; the second is featured, the third archived.
 extern const char kSmallCatalogue[];
 
-// While it lives, catalogues are made in memory where the machine offers that: for tests of very
-// many saves.
-class MemoryDisk {
-public:
+// From here on this process makes catalogues in memory where the machine offers that: for tests of
+// very many saves.
+struct MemoryDisk {
     MemoryDisk();
-    ~MemoryDisk();
-
-private:
-    QByteArray before;
 };
 
 class TestProgram {
@@ -39,10 +33,10 @@ public:
     explicit TestProgram(const QString& rows = kSmallCatalogue, Trade trade = Trade::Generic);
     ~TestProgram();
 
-    QString Folder() const { return catalogue->Folder(); }
+    QString Folder() const { return catalogue.Folder(); }
 
 private:
-    std::unique_ptr<TestCatalogue> catalogue;
+    TestCatalogue catalogue;
 };
 
 // Makes the main window active again after a box, as a window manager does; the routines below

@@ -21,35 +21,7 @@ template <typename Integer> QByteArray IntegerField(Integer value) {
     return field;
 }
 
-QByteArray Complemented(QByteArray bytes) {
-    for (char& byte : bytes) {
-        byte = ~byte;
-    }
-    return bytes;
-}
-
 } // namespace
-
-TemplateBuilder& TemplateBuilder::Name(const QString& newTitle) {
-    title = newTitle;
-    return *this;
-}
-
-TemplateBuilder& TemplateBuilder::Description(const QString& newDescription) {
-    description = newDescription;
-    return *this;
-}
-
-TemplateBuilder& TemplateBuilder::Emphasis(int first, int second) {
-    emphasis1 = first;
-    emphasis2 = second;
-    return *this;
-}
-
-TemplateBuilder& TemplateBuilder::Scrambled(int value) {
-    scrambled = value;
-    return *this;
-}
 
 TemplateBuilder& TemplateBuilder::Add(int kind, const QString& name, const QString& params,
                                       const QString& body) {
@@ -74,8 +46,8 @@ TemplateBuilder& TemplateBuilder::AddList(int kind, const QString& name, const Q
 
 QByteArray TemplateBuilder::Bytes() const {
     QByteArray file = "KPF0100" + TextField(title, 50) + TextField(description, 497) +
-                      IntegerField(quint8(scrambled)) + IntegerField(quint8(emphasis1)) +
-                      IntegerField(quint8(emphasis2)) + IntegerField(qint16(0)) +
+                      IntegerField(quint8(scrambled)) + IntegerField(quint8(emphasis.first)) +
+                      IntegerField(quint8(emphasis.second)) + IntegerField(qint16(0)) +
                       IntegerField(qint16(sections.size()));
     QByteArray bodies;
     const qsizetype firstBody = kHeaderSize + qsizetype(sections.size()) * kSectionSize;
@@ -84,7 +56,10 @@ QByteArray TemplateBuilder::Bytes() const {
                 IntegerField(qint32(firstBody + bodies.size() + 1)) +
                 IntegerField(qint32(section.body.size() - 1)) + IntegerField(qint16(section.kind)) +
                 TextField(section.params, 200);
-        bodies += scrambled == 1 ? Complemented(section.body) : section.body;
+        bodies += section.body;
+    }
+    if (scrambled == 1) {
+        std::transform(bodies.begin(), bodies.end(), bodies.begin(), std::bit_not<char>());
     }
     return file + bodies;
 }

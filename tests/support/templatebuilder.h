@@ -8,12 +8,12 @@
 
 class TemplateBuilder {
 public:
-    TemplateBuilder& Name(const QString& title);
-    TemplateBuilder& Description(const QString& description);
-    TemplateBuilder& Emphasis(int first, int second);
+    TemplateBuilder& Name(const QString& text) { return Set(title, text); }
+    TemplateBuilder& Description(const QString& text) { return Set(description, text); }
+    TemplateBuilder& Emphasis(int first, int second) { return Set(emphasis, {first, second}); }
 
     // The byte of the header; bodies are stored complemented where it is 1.
-    TemplateBuilder& Scrambled(int value);
+    TemplateBuilder& Scrambled(int value) { return Set(scrambled, value); }
 
     // One more section. Texts become Windows-1252; an empty body is stored as none.
     TemplateBuilder& Add(int kind, const QString& name, const QString& params, const QString& body);
@@ -41,10 +41,14 @@ private:
         QByteArray body;
     };
 
+    template <class Field> TemplateBuilder& Set(Field& field, const Field& value) {
+        field = value;
+        return *this;
+    }
+
     QString title = "Prueba";
     QString description;
-    int emphasis1 = 0;
-    int emphasis2 = 0;
+    std::pair<int, int> emphasis;
     int scrambled = 0;
     std::vector<Section> sections;
 };
