@@ -3,6 +3,7 @@
 
 #include "core/flavour.h"
 #include "core/settings.h"
+#include "tests/support/files.h"
 
 #include <QDateTime>
 #include <ctime>
@@ -69,41 +70,14 @@ TEST_F(StepsTest, TheListFollowsTheStorageAndAStepOfTheLastRunKeepsItsStateWhile
     EXPECT_EQ(list(), made + "tGuardar los Ficheros en Carpeta Local|t|t");
 }
 
-// Each line: seconds since the start, bytes sent of 10,000 and the text that is then shown.
 TEST_F(StepsTest, TheRemainingTimeIsMeasuredAndCountsDownBetweenMeasurements) {
-    struct Moment {
-        double seconds;
-        double sent;
-        const char* text;
-    };
-    const std::vector<Moment> kRuns[] = {
-        {{0, 0, ""}, {1, 499, "Calculando..."}, {1, 500, "19 segundos"}},
-        // Up to 20 seconds each call measures.
-        {{10, 5000, "10 segundos"}, {11, 5000, "11 segundos"}, {12, 10000, "0 segundos"}},
-        // Above, the first figure counts down, whatever the speed does, until 5 seconds are over.
-        {{4, 1000, "32 segundos"},
-         {4.5, 5000, "32 segundos"},
-         {4.9, 9000, "31 segundos"},
-         {5, 1000, "45 segundos"},
-         {8, 1000, "42 segundos"},
-         {10, 2000, "40 segundos"}},
-        // The figure is rounded before it is compared, a half to the even neighbour.
-        {{6.6, 1000, "59 segundos"}},
-        {{6.61, 1000, "59 segundos"}},
-        {{59.5, 5000, "1 minuto(s) "}},
-        {{60, 5000, "1 minuto(s) "}},
-        {{90, 5000, "2 minuto(s) "}},
-        {{150, 5000, "2 minuto(s) "}},
-        // Across midnight the text is what the arithmetic gives.
-        {{43210, 5000, "-43190 segundos"}},
-    };
-    for (const auto& run : kRuns) {
-        SetClock(43200);
-        ResetTimeRemaining();
-        for (const Moment& moment : run) {
-            SetClock(43200 + moment.seconds);
-            EXPECT_EQ(TimeRemaining(moment.sent, 10000).toStdString(), moment.text)
-                << moment.seconds;
+    QString run;
+    for (const QStringList& row : ReadTable(TABLES, "run, its second, bytes sent, text shown")) {
+        if (std::exchange(run, row[0]) != row[0]) {
+            SetClock(43200);
+            ResetTimeRemaining();
         }
+        SetClock(43200 + row[1].toDouble());
+        EXPECT_EQ(TimeRemaining(row[2].toDouble(), 10000), row[3]) << row[0].toStdString();
     }
 }

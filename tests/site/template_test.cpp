@@ -16,10 +16,8 @@ namespace {
 constexpr char kUnknownFormat[] = "Error: no se reconoce el formato de la plantilla seleccionada";
 constexpr char kDamaged[] = "Se ha producido un error al abrir la plantilla de diseño";
 
-// Places in the file of a design with a header and its first section.
-constexpr int kCountAt = 559;
+// Of the first section, in the file.
 constexpr int kPositionAt = kHeaderSize + 29;
-constexpr int kLastIndexAt = kHeaderSize + 33;
 
 QByteArray Little(qint32 value, int size) {
     QByteArray bytes;
@@ -81,35 +79,16 @@ TEST(Template, ScrambledBodiesAreComplementedAndMayOverlap) {
 TEST(Template, FilesThatLieAboutThemselvesAreRefusedWithABox) {
     const QByteArray good = TemplateBuilder().Add(kKindHomePage, "", "", "0123456789").Bytes();
     ASSERT_TRUE(LoadBytes(good));
-    const struct {
-        const char* name;
-        QByteArray bytes;
-        const char* box;
-    } kCases[] = {
-        {"empty", "", kUnknownFormat},
-        {"cut in the header", good.left(560), kUnknownFormat},
-        {"lower case magic", "kpf" + good.mid(3), kUnknownFormat},
-        {"cut in the table", good.left(kHeaderSize + 238), kDamaged},
-        {"cut in the body", good.chopped(1), kDamaged},
-        {"negative count", QByteArray(good).replace(kCountAt, 2, Little(-1, 2)), kDamaged},
-        {"count beyond the table", QByteArray(good).replace(kCountAt, 2, Little(102, 2)), kDamaged},
-        {"position 0", QByteArray(good).replace(kPositionAt, 4, Little(0, 4)), kDamaged},
-        {"position behind the end", QByteArray(good).replace(kPositionAt, 4, Little(802, 4)),
-         kDamaged},
-        {"largest position", QByteArray(good).replace(kPositionAt, 4, Little(INT_MAX, 4)),
-         kDamaged},
-        {"length beyond the end", QByteArray(good).replace(kLastIndexAt, 4, Little(10, 4)),
-         kDamaged},
-        {"largest length", QByteArray(good).replace(kLastIndexAt, 4, Little(INT_MAX, 4)), kDamaged},
-        {"negative length", QByteArray(good).replace(kLastIndexAt, 4, Little(-2, 4)), kDamaged},
-    };
-    for (const auto& row : kCases) {
+    for (const QStringList& row : ReadTable(TABLES, "bytes kept of a design, number put in")) {
+        SCOPED_TRACE(row.join(' ').toStdString());
+        QByteArray bytes = good.left(row[0].toInt());
+        bytes.replace(row[1].toInt(), row[2].toInt(), Little(row[3].toInt(), row[2].toInt()));
         BoxAnswers boxes;
-        EXPECT_FALSE(LoadBytes(row.bytes)) << row.name;
-        ASSERT_EQ(boxes.Texts(), row.box) << row.name;
+        EXPECT_FALSE(LoadBytes(bytes));
+        ASSERT_EQ(boxes.Texts(), row[4] == "unknown" ? kUnknownFormat : kDamaged);
         EXPECT_EQ(boxes.seen[0].icon, QMessageBox::Warning);
         EXPECT_EQ(boxes.seen[0].title, AppName);
-        EXPECT_EQ(SectionBodies[0], QByteArray(1, '\0')) << row.name;
+        EXPECT_EQ(SectionBodies[0], QByteArray(1, '\0'));
     }
 }
 
@@ -130,17 +109,15 @@ TEST(Template, ManySectionsOverOneLargeBodyAreRefusedBeforeMemoryIsTaken) {
 }
 
 TEST(Template, SectionsAreFoundFirstLastAndAll) {
-    TemplateBuilder()
-        .Add(kKindZoneBlock, "0", "", "")
-        .Add(kKindZoneBlock, "1", "", "") // skipped: it follows a hit
-        .Add(kKindProductPicture, "2", "", "")
-        .Add(kKindZoneBlock, "3", "", "")
-        .Add(kKindZoneBlock, "4", "", "")
-        .Add(kKindProductPicture, "5", "", "")
-        .Load();
+    TemplateBuilder design;
+    for (const int kind : {kKindZoneBlock, kKindZoneBlock, kKindProductPicture, kKindZoneBlock,
+                           kKindZoneBlock, kKindProductPicture}) {
+        design.Add(kind, "", "", "");
+    }
+    design.Load();
     EXPECT_EQ(FindSection(kKindZoneBlock), 0);
     EXPECT_EQ(FindSection(kKindHomePage), 65535);
-    EXPECT_EQ(FindSections(kKindZoneBlock), std::vector<int>{3});
+    EXPECT_EQ(FindSections(kKindZoneBlock), std::vector<int>{3}); // 1 is skipped: it follows a hit
     EXPECT_EQ(FindSections(kKindHomePage), std::vector<int>{65535});
     EXPECT_EQ(AllSections(kKindZoneBlock), (std::vector<int>{0, 1, 3, 4}));
     IndexImageSections();
@@ -151,22 +128,12 @@ TEST(Template, SectionsAreFoundFirstLastAndAll) {
 }
 
 TEST(Template, ListBodiesAreCutByTheirLengths) {
-    const struct {
-        const char* params;
-        const char* parts;
-    } kCases[] = {
-        {"START=2;MIDDLE=3;END=4;", "01|234|5678"},
-        {"START=0;MIDDLE=3;END=4;", "|012|3456"},
-        {"START=2;MIDDLE=0;END=4;", "01||2345"},
-        {"START=2;END=99;", "01||23456789"},
-        {"START=12;MIDDLE=3;END=4;", "0123456789||"},
-        {"START=-2;MIDDLE=3x;END=40000;", "|012|"}, // none is none, and 16 bits is all there is
-        {"", "||"},
-    };
-    for (const auto& row : kCases) {
-        TemplateBuilder().Add(kKindZoneList, "", row.params, "0123456789").Load();
+    for (const QStringList& row : ReadTable(TABLES, "lengths, and the parts of 0123456789")) {
+        TemplateBuilder().Add(kKindZoneList, "", row[0], "0123456789").Load();
         const SectionParts parts = SplitSectionBody(0);
-        EXPECT_EQ(parts.head + "|" + parts.middle + "|" + parts.tail, row.parts) << row.params;
+        EXPECT_EQ(parts.head + "|" + parts.middle + "|" + parts.tail,
+                  row.mid(1).join('|').toLatin1())
+            << row[0].toStdString();
     }
     EXPECT_EQ(SplitSectionBody(kNoSection).head, "");
 }
@@ -183,8 +150,7 @@ TEST(Template, CustomFilesAreCopiedFromTheStoreFolderAlone) {
     WriteFile(elsewhere.filePath("secret"), "secret");
     QFile::link(DBpath + DBname, DBpath + "link.txt");
     const QString names =
-        "robots.txt , empty.txt,,missing, Zandora.zdb,ZANDORA.ZDB-JOURNAL,link.txt,"
-        "../" +
+        "robots.txt , empty.txt,,missing, Zandora.zdb,ZANDORA.ZDB-JOURNAL,link.txt,../" +
         QFileInfo(elsewhere.path()).fileName() + "/secret,..";
     TemplateBuilder().Description("CUSTOMFILES=" + names + ";").Load();
     CopyCustomFiles();
