@@ -15,22 +15,16 @@ namespace {
 // Two watched boxes and a button in a window, and what was told of them.
 struct ControlEventsTest : testing::Test {
     QWidget window;
-    QLineEdit* first = new QLineEdit(&window);
-    QLineEdit* second = new QLineEdit(&window);
-    QPushButton* button = new QPushButton(&window);
+    QVBoxLayout* layout = new QVBoxLayout(&window);
+    QLineEdit* first = Add<QLineEdit>("first");
+    QLineEdit* second = Add<QLineEdit>("second");
+    QPushButton* button = Add<QPushButton>("button");
     ControlEvents events;
     QStringList log;
     bool refuse = false;
     int clicks = 0;
 
     ControlEventsTest() {
-        first->setObjectName("first");
-        second->setObjectName("second");
-        button->setObjectName("button");
-        auto* layout = new QVBoxLayout(&window);
-        layout->addWidget(first);
-        layout->addWidget(second);
-        layout->addWidget(button);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -47,6 +41,13 @@ struct ControlEventsTest : testing::Test {
         QObject::connect(button, &QPushButton::clicked, [this] { ++clicks; });
         events.Watch(first);
         events.Watch(second);
+    }
+
+    template <class Control> Control* Add(const char* name) {
+        auto* control = new Control(&window);
+        control->setObjectName(name);
+        layout->addWidget(control);
+        return control;
     }
 };
 
