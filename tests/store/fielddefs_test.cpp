@@ -3,36 +3,24 @@
 #include "store/fielddefs.h"
 #include "store/store.h"
 #include "store/taggedtext.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 
 #include <gtest/gtest.h>
 
 TEST(TaggedText, EntriesLanguagesAndTheLastAlternativeWhereOneIsMissing) {
-    const QString colours = "ESRojo#ENRed|ESVerde#ENGreen";
-    struct {
-        QString text;
-        QString language;
-        int index;
-        QString expected;
-    } const cases[] = {
-        {colours, "EN", 1, "Green"},     {colours, "ES", 0, "Rojo"},
-        {colours, "FR", 1, "Green"},     {colours, "EN", 2, ""},
-        {"ESPuerta", "EN", 0, "Puerta"}, {"E#ENDoor", "EN", 0, "Door"},
-        {"ENDoor#E", "ES", 0, ""},       {"", "ES", 0, ""},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(TaggedText(c.text, c.language, c.index), c.expected)
-            << qPrintable(c.text) << " " << qPrintable(c.language) << " " << c.index;
+    for (const QStringList& row : ReadTable(TABLES, "entries, language, place, text")) {
+        const QString entries = QString(row[0]).replace('/', '|');
+        EXPECT_EQ(TaggedText(entries, row[1], row[2].toInt()), row[3])
+            << row.join(' ').toStdString();
     }
 }
 
 TEST(FieldTypes, AreTheStoredLettersAloneAndEverythingElseIsText) {
-    const std::pair<const char*, FieldType> cases[] = {
-        {"B", FieldType::YesNo}, {"O", FieldType::Options}, {"I", FieldType::Internal},
-        {"T", FieldType::Text},  {"", FieldType::Text},     {"b", FieldType::Text},
-        {"BO", FieldType::Text}};
-    for (const auto& [stored, type] : cases) {
-        EXPECT_EQ(FieldTypeOf(stored), type) << stored;
+    using enum FieldType;
+    const QList<FieldType> types = {YesNo, Options, Internal, Text, Text, Text, Text};
+    for (int i = 0; const char* stored : {"B", "O", "I", "T", "", "b", "BO"}) {
+        EXPECT_EQ(FieldTypeOf(stored), types[i++]) << stored;
     }
 }
 

@@ -37,16 +37,20 @@ private:
     QProcess process;
 };
 
-constexpr char kOne[] = "product; 10001; A-1; 10; 0; Norte; 2024-01-01T10:00:00";
+// A catalogue of one product, closed.
+class Maintenance : public testing::Test {
+protected:
+    Maintenance() { CloseStore(); }
+
+    TestCatalogue catalogue{"product; 10001; A-1; 10; 0; Norte; 2024-01-01T10:00:00"};
+    QString store = catalogue.Folder() + DBname;
+};
 
 } // namespace
 
-TEST(Maintenance, CompactingKeepsTheOldFileAndReplacesWhatEarlierRunsLeft) {
-    TestCatalogue catalogue(kOne);
-    const QString store = catalogue.Folder() + DBname;
+TEST_F(Maintenance, CompactingKeepsTheOldFileAndReplacesWhatEarlierRunsLeft) {
     WriteFile(store + ".tmp", "stale");
     WriteFile(store + ".bak", "older");
-    CloseStore();
     const QByteArray before = ReadFile(store);
     EXPECT_EQ(CompactStore(store), 0);
     EXPECT_EQ(ReadFile(store + ".bak"), before);
@@ -55,10 +59,7 @@ TEST(Maintenance, CompactingKeepsTheOldFileAndReplacesWhatEarlierRunsLeft) {
     EXPECT_EQ(Products(), "1");
 }
 
-TEST(Maintenance, ADamagedStoreIsLeftAsItIsWithItsBackup) {
-    const TestCatalogue catalogue(kOne);
-    CloseStore();
-    const QString store = catalogue.Folder() + DBname;
+TEST_F(Maintenance, ADamagedStoreIsLeftAsItIsWithItsBackup) {
     QByteArray damaged = ReadFile(store);
     damaged.replace(4096, damaged.size() - 4096, QByteArray(damaged.size() - 4096, '\x5a'));
     WriteFile(store, damaged);
@@ -70,21 +71,15 @@ TEST(Maintenance, ADamagedStoreIsLeftAsItIsWithItsBackup) {
     EXPECT_NE(CompactStore(catalogue.Folder() + "otra.zdb"), 0);
 }
 
-TEST(Maintenance, ACompactionCutOffBeforeItsLastStepIsEndedWhenTheStoreIsOpened) {
-    const TestCatalogue catalogue(kOne);
-    CloseStore();
-    const QString store = catalogue.Folder() + DBname;
+TEST_F(Maintenance, ACompactionCutOffBeforeItsLastStepIsEndedWhenTheStoreIsOpened) {
     ASSERT_TRUE(QFile::copy(store, store + ".tmp"));
     ASSERT_TRUE(QFile::rename(store, store + ".bak"));
     ASSERT_EQ(OpenStore(), 0);
     EXPECT_EQ(Products(), "1");
 }
 
-TEST(Maintenance, BothAreRefusedWhileAnotherProcessHasTheStoreOpen) {
-    const TestCatalogue catalogue(kOne);
-    CloseStore();
+TEST_F(Maintenance, BothAreRefusedWhileAnotherProcessHasTheStoreOpen) {
     const Colleague colleague(catalogue.Folder());
-    const QString store = catalogue.Folder() + DBname;
     const QByteArray before = ReadFile(store);
     const QStringList files = QDir(DBpath).entryList(QDir::Files);
     const QTemporaryDir target;

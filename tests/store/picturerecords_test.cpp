@@ -25,8 +25,10 @@ protected:
         return WriteFile(sources.filePath(QString("Foto %1.jpg").arg(++made)), bytes);
     }
 
-    void Add(const QByteArray& bytes) {
-        EXPECT_EQ(AddPicture(SourceFile(bytes)), PictureResult::Done);
+    void Add(const std::initializer_list<const char*>& contents) {
+        for (const char* bytes : contents) {
+            EXPECT_EQ(AddPicture(SourceFile(bytes)), PictureResult::Done);
+        }
     }
 
     // The order, number and file's content of each picture.
@@ -55,20 +57,18 @@ protected:
 } // namespace
 
 TEST_F(PictureRecords, AddedOnesAreCopiedAndNumberedFromOneAndTheProductIsStampedWithThem) {
-    Add("uno");
+    Add({"uno"});
     EXPECT_EQ(Pictures(), "0;1000101;uno");
     EXPECT_EQ(frmPictures->txtPicturePath->text(), "Pic1000101.dat");
     SetControlText(frmPictures->txtMLFields[0], "Vista");
-    Add("dos");
+    Add({"dos"});
     EXPECT_EQ(Pictures(), "0;1000101;uno|1;1000102;dos");
     EXPECT_EQ(TextsOf(1000101), "Vista|");
     EXPECT_NE(frmMain->txtLastUpdate->text(), "01/01/2024 10:00:00");
 }
 
 TEST_F(PictureRecords, DeletingClosesTheGapAndTheHighestNumberIsGivenAgainWithoutOldTexts) {
-    for (const char* content : {"uno", "dos", "tres"}) {
-        Add(content);
-    }
+    Add({"uno", "dos", "tres"});
     Show(2);
     DeletePicture();
     EXPECT_EQ(Pictures(), "0;1000101;uno|1;1000103;tres");
@@ -80,15 +80,13 @@ TEST_F(PictureRecords, DeletingClosesTheGapAndTheHighestNumberIsGivenAgainWithou
     DeletePicture();
     EXPECT_EQ(Stored("SELECT count(*) FROM MultiLangFields WHERE TableName='Pictures'"), "0");
     ChangeStore("INSERT INTO MultiLangFields VALUES ('Pictures','1000102','ES',0,'de otro')");
-    Add("cuatro");
+    Add({"cuatro"});
     EXPECT_EQ(Pictures(), "0;1000101;uno|1;1000102;cuatro");
     EXPECT_EQ(ControlText(frmPictures->txtMLFields[0]), "");
 }
 
 TEST_F(PictureRecords, MovingSwapsTwoPlacesAndFollowsThePicture) {
-    for (const char* content : {"uno", "dos", "tres"}) {
-        Add(content);
-    }
+    Add({"uno", "dos", "tres"});
     Show(3);
     MovePicture(3, 2);
     EXPECT_EQ(Pictures(), "0;1000101;uno|1;1000103;tres|2;1000102;dos");
@@ -97,14 +95,12 @@ TEST_F(PictureRecords, MovingSwapsTwoPlacesAndFollowsThePicture) {
 }
 
 TEST_F(PictureRecords, TheNinthIsRefusedAndAFileThatCannotBeCopiedLeavesEverythingAsItWas) {
-    for (int i = 0; i < PictureLimit() - 1; ++i) {
-        Add("x");
-    }
+    Add({"x", "x", "x", "x", "x", "x", "x"}); // one fewer than the limit
     Show(2);
     EXPECT_EQ(AddPicture(sources.filePath("falta.jpg")), PictureResult::NotCopied);
     EXPECT_EQ(adcData[kCursorPictures].RecordCount(), 7);
     EXPECT_EQ(frmPictures->txtProdPictureId->text(), "2"); // the one before
-    Add("x");
+    Add({"x"});
     BoxAnswers answers;
     EXPECT_EQ(AddPicture(SourceFile("novena")), PictureResult::LimitReached);
     ASSERT_EQ(answers.seen.size(), 1U);
@@ -114,9 +110,7 @@ TEST_F(PictureRecords, TheNinthIsRefusedAndAFileThatCannotBeCopiedLeavesEverythi
 }
 
 TEST_F(PictureRecords, ADeleteThatTheStoreRefusesKeepsRowTextsAndFile) {
-    for (const char* content : {"uno", "dos"}) {
-        Add(content);
-    }
+    Add({"uno", "dos"});
     Show(1);
     Refuse("UPDATE ON Pictures");
     EXPECT_THROW(DeletePicture(), StoreError);

@@ -82,30 +82,24 @@ TEST(Products, SavingWritesFieldsThenTextsThenTheProduct) {
 }
 
 TEST(Products, WhatChangedDecidesWhetherItIsSavedAndStamped) {
-    struct {
-        const char* situation;
-        void (*act)();
-        bool stamped;
-        const char* fields;
-    } const cases[] = {
-        {"nothing", [] {}, false, "rojo|0|0|5|frágil"},
-        {"an internal field", [] { frmMain->txtFields[4]->setText("nuevo"); }, false,
-         "rojo|0|0|5|nuevo"},
-        {"an internal and a public one",
-         [] {
-             frmMain->txtFields[4]->setText("nuevo");
-             Type(frmMain->txtFields[0], "lila");
-         },
-         true, "lila|0|0|5|nuevo"},
-        {"the price", [] { Type(frmMain->txtPriceAmount, "11"); }, true, "rojo|0|0|5|frágil"},
-        {"only the stamp", [] { TouchLastUpdate(Touched::Product); }, true, "rojo|0|0|5|frágil"},
-    };
-    for (const auto& c : cases) {
+    for (const QStringList& row : ReadTable(TABLES, "what is typed, stamped, fields")) {
         const TestProgram program;
-        c.act();
+        if (!row[1].isEmpty()) {
+            frmMain->txtFields[4]->setText(row[1]);
+        }
+        if (!row[2].isEmpty()) {
+            Type(frmMain->txtFields[0], row[2]);
+        }
+        if (!row[3].isEmpty()) {
+            Type(frmMain->txtPriceAmount, row[3]);
+        }
+        if (row[0] == "the stamp alone") {
+            TouchLastUpdate(Touched::Product);
+        }
         ClickRow(1);
-        EXPECT_EQ(FieldsOf(10001), c.fields) << c.situation;
-        EXPECT_EQ(!Product(10001).endsWith("2024-01-01T10:00:00"), c.stamped) << c.situation;
+        EXPECT_EQ(FieldsOf(10001), row.mid(5).join('|')) << row[0].toStdString();
+        EXPECT_EQ(!Product(10001).endsWith("2024-01-01T10:00:00"), row[4] == "yes")
+            << row[0].toStdString();
     }
 }
 
