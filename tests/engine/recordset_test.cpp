@@ -1,7 +1,6 @@
 #include "storefixture.h"
 
 #include <csignal>
-#include <gtest/gtest.h>
 #include <sqlite3.h>
 #include <sys/resource.h>
 
@@ -33,11 +32,12 @@ private:
     rlimit usual = {};
 };
 
+using RecordsetTest = StoreFixture;
+
 } // namespace
 
-TEST(Recordset, ReadsTypesAndNamesWithoutRegardToCase) {
-    StoreFixture store;
-    Recordset row = store.Cursor("SELECT * FROM Products ORDER BY ProductId");
+TEST_F(RecordsetTest, ReadsTypesAndNamesWithoutRegardToCase) {
+    Recordset row = Cursor("SELECT * FROM Products ORDER BY ProductId");
     EXPECT_EQ(row.RecordCount(), 3);
     EXPECT_EQ(row.AbsolutePosition(), 1);
     EXPECT_EQ(row.Value(u"PRODUCTID"), Cell(qint64{10001}));
@@ -49,16 +49,14 @@ TEST(Recordset, ReadsTypesAndNamesWithoutRegardToCase) {
     EXPECT_EQ(ErrorOf([&] { row.Value(-1); }), kErrNoColumn);
     EXPECT_EQ(ErrorOf([&] { row.Value(5); }), kErrNoColumn);
 
-    EXPECT_EQ(store.Rows("SELECT x'C3B1', '', 1e300 = 1e300"), "ñ,,1");
+    EXPECT_EQ(Rows("SELECT x'C3B1', '', 1e300 = 1e300"), "ñ,,1");
 }
 
-TEST(Recordset, EachOfManyRowsKeepsItsOwnTexts) {
-    StoreFixture store;
-    store.Connection()->Execute(
+TEST_F(RecordsetTest, EachOfManyRowsKeepsItsOwnTexts) {
+    Execute(
         "WITH RECURSIVE n(i) AS (VALUES(0) UNION ALL SELECT i+1 FROM n WHERE i<2999)"
         " INSERT INTO Texts SELECT 'Muchos', i % 400, i, substr('ñandú y más', 1, i % 12) FROM n");
-    Recordset rows = store.Cursor("SELECT * FROM Texts WHERE TableName = 'Muchos' "
-                                  "ORDER BY FieldDefId");
+    Recordset rows = Cursor("SELECT * FROM Texts WHERE TableName = 'Muchos' ORDER BY FieldDefId");
     ASSERT_EQ(rows.RecordCount(), 3000);
     for (int i = 0; rows.HasRow(); rows.MoveNext(), ++i) {
         ASSERT_EQ(rows.Integer(u"FieldDefId"), i);
@@ -67,9 +65,8 @@ TEST(Recordset, EachOfManyRowsKeepsItsOwnTexts) {
     }
 }
 
-TEST(Recordset, WalksFromFirstPastLast) {
-    StoreFixture store;
-    Recordset row = store.Cursor("SELECT ProductId FROM Products ORDER BY ProductId");
+TEST_F(RecordsetTest, WalksFromFirstPastLast) {
+    Recordset row = Cursor("SELECT ProductId FROM Products ORDER BY ProductId");
     row.SetAbsolutePosition(3);
     EXPECT_EQ(row.Text(0), "10003");
     row.MoveNext();
@@ -80,37 +77,34 @@ TEST(Recordset, WalksFromFirstPastLast) {
     EXPECT_FALSE(row.HasRow());
 }
 
-TEST(Recordset, RefusesWithTheNumberOfTheFault) {
-    StoreFixture store;
+TEST_F(RecordsetTest, RefusesWithTheNumberOfTheFault) {
     Recordset closed;
     EXPECT_EQ(ErrorOf([&] { closed.MoveFirst(); }), kErrNotOpen);
     EXPECT_EQ(ErrorOf([&] { closed.Open(); }), kErrNotOpen);
     EXPECT_EQ(closed.RecordCount(), 0);
 
-    Recordset empty = store.Cursor("SELECT * FROM Products WHERE 1 = 2");
+    Recordset empty = Cursor("SELECT * FROM Products WHERE 1 = 2");
     EXPECT_EQ(empty.ColumnCount(), 5);
     EXPECT_EQ(ErrorOf([&] { empty.Set(u"IsNew", qint64{1}); }), kErrNoCurrentRow);
 
-    store.Connection()->Execute("CREATE VIEW Vista AS SELECT IsNew FROM Products;"
-                                "CREATE TABLE SinId (IsNew TEXT PRIMARY KEY) WITHOUT ROWID;"
-                                "INSERT INTO SinId VALUES ('a')");
-    for (const char* statement :
-         {"SELECT count(*) AS IsNew FROM Products", "SELECT DISTINCT IsNew FROM Products",
-          "SELECT IsNew+1 AS IsNew FROM Products", "SELECT IsNew FROM Vista",
-          "SELECT IsNew FROM SinId"}) {
-        Recordset rows = store.Cursor(statement);
-        EXPECT_EQ(ErrorOf([&] { rows.Set(u"IsNew", qint64{7}); }), kErrNotUpdatable) << statement;
+    Execute("CREATE VIEW Vista AS SELECT IsNew FROM Products;"
+            "CREATE TABLE SinId (IsNew TEXT PRIMARY KEY) WITHOUT ROWID;"
+            "INSERT INTO SinId VALUES ('a')");
+    for (const char* rest :
+         {"count(*) AS IsNew FROM Products", "DISTINCT IsNew FROM Products",
+          "IsNew+1 AS IsNew FROM Products", "IsNew FROM Vista", "IsNew FROM SinId"}) {
+        Recordset rows = Cursor(QString("SELECT ") + rest);
+        EXPECT_EQ(ErrorOf([&] { rows.Set(u"IsNew", qint64{7}); }), kErrNotUpdatable) << rest;
         EXPECT_FALSE(rows.HasPending());
     }
-    Recordset counted = store.Cursor("SELECT count(*) FROM Products");
+    Recordset counted = Cursor("SELECT count(*) FROM Products");
     EXPECT_EQ(ErrorOf([&] { counted.AddNew(); }), kErrNotUpdatable);
     EXPECT_EQ(ErrorOf([&] { counted.Delete(); }), kErrNotUpdatable);
-    EXPECT_EQ(ErrorOf([&] { store.Cursor("SELECT Nada FROM Products"); }), kErrStatement);
+    EXPECT_EQ(ErrorOf([&] { Cursor("SELECT Nada FROM Products"); }), kErrStatement);
 }
 
-TEST(Recordset, EditsStayInTheCopyUntilUpdate) {
-    StoreFixture store;
-    Recordset rows = store.Cursor("SELECT * FROM Products p WHERE p.ProductId < 10003");
+TEST_F(RecordsetTest, EditsStayInTheCopyUntilUpdate) {
+    Recordset rows = Cursor("SELECT * FROM Products p WHERE p.ProductId < 10003");
     rows.Set(u"SaleZone", QString("Soria"));
     rows.Set(u"PriceAmount", QString("12")); // as typed
     rows.MoveNext();
@@ -118,33 +112,29 @@ TEST(Recordset, EditsStayInTheCopyUntilUpdate) {
     rows.Set(u"ProductRef", qint64{77});
     EXPECT_EQ(rows.Value(u"IsNew"), Cell(qint64{2}));
     EXPECT_EQ(rows.Value(u"ProductRef"), Cell(QString("77")));
-    EXPECT_EQ(store.Rows("SELECT SaleZone, IsNew FROM Products WHERE ProductId < 10003"),
-              "Ávila,1/-,0");
+    EXPECT_EQ(Rows("SELECT SaleZone, IsNew FROM Products WHERE ProductId < 10003"), "Ávila,1/-,0");
     EXPECT_TRUE(rows.HasPending());
     rows.Update();
     EXPECT_FALSE(rows.HasPending());
     EXPECT_EQ(rows.AbsolutePosition(), 2);
-    EXPECT_EQ(store.Rows("SELECT * FROM Products WHERE ProductId < 10003"),
+    EXPECT_EQ(Rows("SELECT * FROM Products WHERE ProductId < 10003"),
               "10001,A-1,12,1,Soria/10002,77,20,2,-");
 }
 
-TEST(Recordset, WritesOnlyTheColumnsThatDiffer) {
-    StoreFixture store;
-    Recordset mine = store.Cursor("SELECT * FROM Products WHERE ProductId = 10001");
+TEST_F(RecordsetTest, WritesOnlyTheColumnsThatDiffer) {
+    Recordset mine = Cursor("SELECT * FROM Products WHERE ProductId = 10001");
     mine.Set(u"ProductRef", QString("A-1"));
     EXPECT_FALSE(mine.HasPending());
     mine.Set(u"SaleZone", QString("Soria"));
     mine.Set(u"IsNew", qint64{5});
     mine.Set(u"IsNew", qint64{1});
-    store.Connection()->Execute("UPDATE Products SET IsNew = 2, ProductRef = 'Z' "
-                                "WHERE ProductId = 10001");
+    Execute("UPDATE Products SET IsNew = 2, ProductRef = 'Z' WHERE ProductId = 10001");
     mine.Update();
-    EXPECT_EQ(store.Rows("SELECT ProductRef, IsNew, SaleZone FROM Products LIMIT 1"), "Z,2,Soria");
+    EXPECT_EQ(Rows("SELECT ProductRef, IsNew, SaleZone FROM Products LIMIT 1"), "Z,2,Soria");
 }
 
-TEST(Recordset, AddedRowGetsDefaultsAndCanBeEditedAgain) {
-    StoreFixture store;
-    Recordset rows = store.Cursor("SELECT * FROM Products WHERE 1 = 2");
+TEST_F(RecordsetTest, AddedRowGetsDefaultsAndCanBeEditedAgain) {
+    Recordset rows = Cursor("SELECT * FROM Products WHERE 1 = 2");
     rows.AddNew();
     EXPECT_TRUE(rows.IsNull(u"IsNew"));
     rows.Set(u"ProductId", QString("10004"));
@@ -160,13 +150,12 @@ TEST(Recordset, AddedRowGetsDefaultsAndCanBeEditedAgain) {
     rows.Update();
     rows.Set(u"SaleZone", QString("Lugo"));
     rows.Update();
-    EXPECT_EQ(store.Rows("SELECT * FROM Products WHERE ProductId > 10003 ORDER BY ProductId"),
+    EXPECT_EQ(Rows("SELECT * FROM Products WHERE ProductId > 10003 ORDER BY ProductId"),
               "10005,-,0,0,-/20000,D-4,0,0,Lugo");
 }
 
-TEST(Recordset, DeletesFromTheFrontAndWalksOn) {
-    StoreFixture store;
-    Recordset rows = store.Cursor(kAllTexts);
+TEST_F(RecordsetTest, DeletesFromTheFrontAndWalksOn) {
+    Recordset rows = Cursor(kAllTexts);
     rows.MoveNext();
     rows.Delete();
     EXPECT_EQ(rows.AbsolutePosition(), 0);
@@ -180,16 +169,15 @@ TEST(Recordset, DeletesFromTheFrontAndWalksOn) {
         rows.MoveFirst();
         rows.Delete();
     }
-    EXPECT_EQ(store.Rows("SELECT count(*) FROM Texts"), "5");
+    EXPECT_EQ(Rows("SELECT count(*) FROM Texts"), "5");
     rows.Update();
-    EXPECT_EQ(store.Rows(kAllTexts), "Products,-,0,Nadie");
+    EXPECT_EQ(Rows(kAllTexts), "Products,-,0,Nadie");
     rows.MoveFirst();
     EXPECT_EQ(rows.Text(u"FieldValue"), "Nadie");
 }
 
-TEST(Recordset, FilterLetsEqualRowsThrough) {
-    StoreFixture store;
-    Recordset rows = store.Cursor(kAllTexts);
+TEST_F(RecordsetTest, FilterLetsEqualRowsThrough) {
+    Recordset rows = Cursor(kAllTexts);
     const int item = rows.Column(u"ItemId");
     const int field = rows.Column(u"FieldDefId");
     EXPECT_EQ(Filtered(rows, {{item, u"10001"}}), "Casa,Lejos,Foto");
@@ -204,14 +192,13 @@ TEST(Recordset, FilterLetsEqualRowsThrough) {
     for (const ColumnEquals& absent : {ColumnEquals(u"Nada", u"1"), {4, u"1"}, {-1, u"1"}}) {
         EXPECT_EQ(ErrorOf([&] { rows.SetFilter({absent}); }), kErrNoColumn);
     }
-    Recordset prices = store.Cursor("SELECT PriceAmount, 'x' AS FieldValue FROM Products");
+    Recordset prices = Cursor("SELECT PriceAmount, 'x' AS FieldValue FROM Products");
     EXPECT_EQ(Filtered(prices, {{u"PriceAmount", u"10.5"}}), "x");
     EXPECT_EQ(Filtered(prices, {{u"PriceAmount", u"20"}}), "x");
 }
 
-TEST(Recordset, FilterFollowsChanges) {
-    StoreFixture store;
-    Recordset rows = store.Cursor(kAllTexts);
+TEST_F(RecordsetTest, FilterFollowsChanges) {
+    Recordset rows = Cursor(kAllTexts);
     rows.SetFilter({{u"ItemId", u"10001"}});
     rows.Set(u"FieldValue", QString("O'Casey \"ñ\""));
     rows.Set(u"ItemId", QString("7"));
@@ -230,9 +217,8 @@ TEST(Recordset, FilterFollowsChanges) {
     EXPECT_EQ(rows.RecordCount(), 5);
 }
 
-TEST(Recordset, CloneHoldsWhatWasRead) {
-    StoreFixture store;
-    Recordset rows = store.Cursor("SELECT * FROM Products ORDER BY ProductId");
+TEST_F(RecordsetTest, CloneHoldsWhatWasRead) {
+    Recordset rows = Cursor("SELECT * FROM Products ORDER BY ProductId");
     rows.Delete();
     rows.Update();
     rows.MoveFirst();
@@ -248,35 +234,32 @@ TEST(Recordset, CloneHoldsWhatWasRead) {
     EXPECT_EQ(rows.RecordCount(), 3);
 }
 
-TEST(Recordset, EditedRowGoneMeanwhileWritesNothingAtAll) {
-    StoreFixture store;
-    Recordset rows = store.Cursor("SELECT * FROM Products ORDER BY ProductId");
+TEST_F(RecordsetTest, EditedRowGoneMeanwhileWritesNothingAtAll) {
+    Recordset rows = Cursor("SELECT * FROM Products ORDER BY ProductId");
     rows.Set(u"ProductRef", QString("uno"));
     rows.MoveNext();
     rows.Set(u"ProductRef", QString("dos"));
     rows.AddNew();
-    store.Connection()->Execute("DELETE FROM Products WHERE ProductId = 10002");
+    Execute("DELETE FROM Products WHERE ProductId = 10002");
     EXPECT_EQ(ErrorOf([&] { rows.Update(); }), kErrNoCurrentRow);
     EXPECT_TRUE(rows.HasPending());
-    EXPECT_EQ(store.Rows("SELECT ProductRef FROM Products"), "A-1/C-3");
+    EXPECT_EQ(Rows("SELECT ProductRef FROM Products"), "A-1/C-3");
 }
 
-TEST(Recordset, RefusedRowStaysPendingUntilItIsRight) {
-    StoreFixture store;
-    Recordset rows = store.Cursor("SELECT * FROM Products WHERE 1 = 2");
+TEST_F(RecordsetTest, RefusedRowStaysPendingUntilItIsRight) {
+    Recordset rows = Cursor("SELECT * FROM Products WHERE 1 = 2");
     rows.AddNew();
     rows.Set(u"ProductId", qint64{10001});
     EXPECT_EQ(ErrorOf([&] { rows.Update(); }), kErrDuplicate);
     rows.Set(u"ProductId", qint64{10009});
     rows.Update();
-    EXPECT_EQ(store.Rows("SELECT max(ProductId) FROM Products"), "10009");
+    EXPECT_EQ(Rows("SELECT max(ProductId) FROM Products"), "10009");
 }
 
-TEST(Recordset, BusyStoreKeepsEverythingPending) {
-    StoreFixture store;
-    const auto second = StoreConnection::Open(store.Path());
-    sqlite3_busy_timeout(store.Connection()->Handle(), 1);
-    Recordset rows = store.Cursor("SELECT * FROM Products WHERE ProductId = 10001");
+TEST_F(RecordsetTest, BusyStoreKeepsEverythingPending) {
+    const auto second = StoreConnection::Open(Path());
+    sqlite3_busy_timeout(Connection()->Handle(), 1);
+    Recordset rows = Cursor("SELECT * FROM Products WHERE ProductId = 10001");
     rows.Set(u"ProductRef", QString("nueva"));
     sqlite3_exec(second->Handle(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
     EXPECT_EQ(ErrorOf([&] { rows.Update(); }), kErrBusy);
@@ -284,22 +267,21 @@ TEST(Recordset, BusyStoreKeepsEverythingPending) {
     EXPECT_EQ(rows.Text(u"ProductRef"), "nueva");
     sqlite3_exec(second->Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
     rows.Update();
-    EXPECT_EQ(store.Rows("SELECT ProductRef FROM Products LIMIT 1"), "nueva");
+    EXPECT_EQ(Rows("SELECT ProductRef FROM Products LIMIT 1"), "nueva");
 }
 
-TEST(Recordset, FullDiskKeepsEverythingPending) {
-    StoreFixture store;
-    Recordset rows = store.Cursor("SELECT * FROM Texts WHERE FieldValue = 'Casa'");
+TEST_F(RecordsetTest, FullDiskKeepsEverythingPending) {
+    Recordset rows = Cursor("SELECT * FROM Texts WHERE FieldValue = 'Casa'");
     rows.Set(u"FieldValue", QString(100'000, u'ñ'));
     rows.AddNew();
     rows.Set(u"FieldValue", QString("detrás"));
     {
-        const FullDisk disk(static_cast<rlim_t>(QFileInfo(store.Path()).size()) + 20'000);
+        const FullDisk disk(static_cast<rlim_t>(QFileInfo(Path()).size()) + 20'000);
         EXPECT_EQ(ErrorOf([&] { rows.Update(); }), kErrDisk);
-        EXPECT_EQ(store.Rows(kAllTexts).substr(0, 21), "Products,10001,0,Casa");
+        EXPECT_EQ(Rows(kAllTexts).substr(0, 21), "Products,10001,0,Casa");
     }
     EXPECT_TRUE(rows.HasPending());
     rows.Update();
-    EXPECT_EQ(store.Rows("SELECT length(FieldValue) FROM Texts WHERE length(FieldValue) > 5"),
+    EXPECT_EQ(Rows("SELECT length(FieldValue) FROM Texts WHERE length(FieldValue) > 5"),
               "100000/6");
 }

@@ -2,11 +2,11 @@
 
 #include "storefixture.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 const QString kFirst = QStringLiteral("SELECT * FROM Products WHERE ProductId = 10001");
+
+using RowLockTest = StoreFixture;
 
 int Probe(Recordset& cursor) {
     return ErrorOf([&] { cursor.Set(u"IsNew", qint64{1}); });
@@ -14,11 +14,10 @@ int Probe(Recordset& cursor) {
 
 } // namespace
 
-TEST(RowLock, SecondCursorIsRefusedUntilTheFirstMovesOn) {
-    StoreFixture store;
-    Recordset first = store.Cursor(kFirst, true);
-    Recordset second = store.Cursor(kFirst, true);
-    Recordset reader = store.Cursor(kFirst);
+TEST_F(RowLockTest, SecondCursorIsRefusedUntilTheFirstMovesOn) {
+    Recordset first = Cursor(kFirst, true);
+    Recordset second = Cursor(kFirst, true);
+    Recordset reader = Cursor(kFirst);
     EXPECT_EQ(Probe(first), 0); // the value that is there: a write all the same
     EXPECT_FALSE(first.HasPending());
     EXPECT_EQ(Probe(second), kErrRowLocked);
@@ -27,7 +26,7 @@ TEST(RowLock, SecondCursorIsRefusedUntilTheFirstMovesOn) {
     first.Set(u"SaleZone", QString("Soria"));
     first.Update();
     EXPECT_EQ(Probe(second), kErrRowLocked); // a commit doesn't end it
-    Recordset neighbour = store.Cursor("SELECT * FROM Products WHERE ProductId = 10002", true);
+    Recordset neighbour = Cursor("SELECT * FROM Products WHERE ProductId = 10002", true);
     EXPECT_EQ(Probe(neighbour), 0);
 
     first.SetSource("SELECT * FROM Products WHERE 1 = 2");
@@ -35,37 +34,34 @@ TEST(RowLock, SecondCursorIsRefusedUntilTheFirstMovesOn) {
     EXPECT_EQ(second.Text(u"SaleZone"), "Soria"); // read anew under the lock
 }
 
-TEST(RowLock, RowDeletedSinceOpeningIsReportedAndNotLocked) {
-    StoreFixture store;
-    Recordset row = store.Cursor(kFirst, true);
-    store.Connection()->Execute("DELETE FROM Products WHERE ProductId = 10001");
+TEST_F(RowLockTest, RowDeletedSinceOpeningIsReportedAndNotLocked) {
+    Recordset row = Cursor(kFirst, true);
+    Execute("DELETE FROM Products WHERE ProductId = 10001");
     EXPECT_EQ(Probe(row), kErrNoCurrentRow);
-    EXPECT_NO_THROW(RowLock(store.Path(), "Products", 10001));
+    EXPECT_NO_THROW(RowLock(Path(), "Products", 10001));
 }
 
-TEST(RowLock, AddedRowIsHeldByItsCreatorFromTheCommitOn) {
-    StoreFixture store;
-    Recordset creator = store.Cursor("SELECT * FROM Products", true);
+TEST_F(RowLockTest, AddedRowIsHeldByItsCreatorFromTheCommitOn) {
+    Recordset creator = Cursor("SELECT * FROM Products", true);
     creator.AddNew();
     creator.Set(u"ProductId", qint64{10004});
     creator.Update();
-    Recordset other = store.Cursor("SELECT * FROM Products WHERE ProductId = 10004", true);
+    Recordset other = Cursor("SELECT * FROM Products WHERE ProductId = 10004", true);
     EXPECT_EQ(Probe(other), kErrRowLocked);
     creator.Close();
     EXPECT_EQ(Probe(other), 0);
 
     // Somebody still holds the id of a row that is gone: no row without its lock.
-    const RowLock held(store.Path(), "Products", 10005);
+    const RowLock held(Path(), "Products", 10005);
     creator.Open();
     creator.AddNew();
     creator.Set(u"ProductId", qint64{10005});
     EXPECT_EQ(ErrorOf([&] { creator.Update(); }), kErrRowLocked);
-    EXPECT_EQ(store.Rows("SELECT max(ProductId) FROM Products"), "10004");
+    EXPECT_EQ(Rows("SELECT max(ProductId) FROM Products"), "10004");
 }
 
-TEST(RowLock, TablesDoNotShareLocks) {
-    StoreFixture store;
-    const RowLock products(store.Path(), "Products", 1);
-    EXPECT_NO_THROW(RowLock(store.Path(), "Texts", 1));
-    EXPECT_EQ(ErrorOf([&] { RowLock(store.Path(), "PRODUCTS", 1); }), kErrRowLocked);
+TEST_F(RowLockTest, TablesDoNotShareLocks) {
+    const RowLock products(Path(), "Products", 1);
+    EXPECT_NO_THROW(RowLock(Path(), "Texts", 1));
+    EXPECT_EQ(ErrorOf([&] { RowLock(Path(), "PRODUCTS", 1); }), kErrRowLocked);
 }

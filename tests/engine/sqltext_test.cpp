@@ -3,8 +3,6 @@
 #include "storefixture.h"
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
 TEST(TranslateStatement, KnowsTopDoubleQuotesAndWritableRows) {
     const QString name =
         "statements, as the engine gets them, and whether their rows can be written";

@@ -7,16 +7,18 @@
 
 #include <QTemporaryDir>
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 
 // A store of two tables in a folder of its own.
-class StoreFixture {
-public:
+class StoreFixture : public testing::Test {
+protected:
     StoreFixture();
 
     QString Path() const { return folder.filePath("Prueba.zdb"); }
     QString Folder() const { return folder.path(); }
     std::shared_ptr<StoreConnection> Connection() const { return connection; }
+    void Execute(const QString& statements) const { connection->Execute(statements); }
 
     // From here on this process has the store closed; for what a second process does first.
     void Leave() { connection.reset(); }
