@@ -3,6 +3,7 @@
 #include "details/languages.h"
 #include "forms/mainform.h"
 #include "platform/controls.h"
+#include "tests/support/files.h"
 #include "tests/support/program.h"
 
 #include <QTest>
@@ -78,34 +79,20 @@ TEST(Assistance, ADoubleClickTakesTheTextOverAndIsSavedLikeTyping) {
 
 TEST(LangButtons, ShowTheUsersLanguagesAndVanishWithOneAlone) {
     const TestProgram program;
-    struct {
-        const char* langs;
-        const char* current;
-        const char* tags;
-        int checked;
-        bool shown;
-    } const cases[] = {{"ES|EN", "EN", "ES EN", 1, true},
-                       {"ES|XX|EN", "ES", "ES XX EN", 0, true},
-                       {"EN|ES", "FR", "EN ES", -1, true},
-                       {"ES", "ES", "ES", 0, false}};
-    for (const auto& c : cases) {
-        SetUserLangs(c.langs, "ES");
-        SetUICurrentLang(c.current);
+    for (const QStringList& row : ReadTable(TABLES, "languages, current, checked, shown")) {
+        SetUserLangs(QString(row[0]).replace(' ', '|'), "ES");
+        SetUICurrentLang(row[1]);
         ArrangeLangButtons(frmMain->fraLang, frmMain->optLang);
         QStringList tags;
-        int checked = -1;
-        for (int i = 0; i < int(frmMain->optLang.size()); ++i) {
-            const QToolButton* button = frmMain->optLang[i];
-            if (!button->isHidden()) {
-                tags += Tag(button);
-            }
-            checked = button->isChecked() ? i : checked;
-            EXPECT_EQ(button->toolTip(), Tag(button) == u"ES"   ? "Español"
-                                         : Tag(button) == u"EN" ? "Inglés"
-                                                                : "");
+        QString checked;
+        for (const QToolButton* button : frmMain->optLang) {
+            const QString lang = Tag(button);
+            tags += button->isHidden() ? QString() : lang;
+            checked += button->isChecked() ? lang : QString();
+            EXPECT_EQ(button->toolTip(), lang == u"ES" ? "Español" : lang == u"EN" ? "Inglés" : "");
         }
-        EXPECT_EQ(tags.join(' '), c.tags);
-        EXPECT_EQ(checked, c.checked) << c.langs << " " << c.current;
-        EXPECT_EQ(frmMain->fraLang->isVisible(), c.shown) << c.langs;
+        EXPECT_EQ(tags.join(' ').trimmed(), row[0]);
+        EXPECT_EQ(checked, row[2]) << row.join(' ').toStdString();
+        EXPECT_EQ(frmMain->fraLang->isVisible(), row[3] == "yes") << row[0].toStdString();
     }
 }

@@ -17,21 +17,17 @@ constexpr char kProduct[] =
     "INSERT INTO Pictures (ProductId, ProdPictureId, PictureId, OrderInForm, PicturePath) VALUES"
     " (10001, 1, 1000101, 0, 'Pic1000101.dat');";
 
-TemplateBuilder Design() {
-    TemplateBuilder design;
-    design.Add(2, "p%%PRID%%.htm", "", "<p>%%PRODUCTREF%%</p>")
-        .Add(3, "index.html", "", "<p>inicio</p>")
-        .Add(12, "%%PICTUREID%%.jpg", "RESIZE=40X30;", "")
-        .Add(21, "ES", "", "");
-    return design;
-}
-
 class Publish : public testing::Test {
 protected:
     void SetUp() override {
         home.MakeCatalogue("data", kProduct);
         home.Write("data/Pic1000101.dat", MakeJpeg(FourFields({80, 60})));
-        Design().Write(Data(), "Default.zdt");
+        TemplateBuilder()
+            .Add(2, "p%%PRID%%.htm", "", "<p>%%PRODUCTREF%%</p>")
+            .Add(3, "index.html", "", "<p>inicio</p>")
+            .Add(12, "%%PICTUREID%%.jpg", "RESIZE=40X30;", "")
+            .Add(21, "ES", "", "")
+            .Write(Data(), "Default.zdt");
         Settings({});
     }
 
@@ -64,68 +60,35 @@ protected:
     QString complaint;
 };
 
-// A run that must fail: what is done to the catalogue first, and what the user reads.
-struct Refusal {
-    const char* name;
-    void (*spoil)(const QString& data);
-    QByteArray settings;
-    QStringList complaints;
+// Runs that must fail: name, what is done to the catalogue first, settings, and what the user
+// reads.
+class PublishRefusal : public Publish, public testing::WithParamInterface<QStringList> {
+protected:
+    void Spoil(const QString& how) const {
+        const QString path = Data() + how.section(' ', 1);
+        if (how.startsWith("cut ")) {
+            QFile::resize(path, 700);
+        } else if (!how.isEmpty()) {
+            QFile::remove(path);
+        }
+        if (how.startsWith("replace ")) {
+            home.Write("other.sql", "CREATE TABLE ProductFieldDef (FieldDefId INTEGER);");
+            RunTool(MAKESTORE, {path, home.Path("other.sql")});
+        }
+    }
 };
 
-void PrintTo(const Refusal& refusal, std::ostream* stream) {
-    *stream << refusal.name;
-}
-
-const char kNotPublished[] = "La web no se ha publicado: ";
-
-const Refusal kRefusals[] = {
-    {"NoStore",
-     [](const QString& data) { QFile::remove(data + "Zandora.zdb"); },
-     "",
-     {"No se ha podido abrir la Base de Datos.", "/data/Zandora.zdb existe y que tiene acceso"}},
-    {"StoreOfAnotherProgram",
-     [](const QString& data) {
-         QFile::remove(data + "Zandora.zdb");
-         WriteFile(data + "other.sql", "CREATE TABLE ProductFieldDef (FieldDefId INTEGER);");
-         RunTool(MAKESTORE, {data + "Zandora.zdb", data + "other.sql"});
-     },
-     "",
-     {"No se ha podido abrir la Base de Datos."}},
-    {"NoTemplate",
-     [](const QString& data) { QFile::remove(data + "Default.zdt"); },
-     "",
-     {"No existe la plantilla de diseño ", "/data/Default.zdt", kNotPublished}},
-    {"DamagedTemplate",
-     [](const QString& data) { QFile(data + "Default.zdt").resize(700); },
-     "",
-     {"Se ha producido un error al abrir la plantilla de diseño", kNotPublished}},
-    {"FolderThatCannotBeMade",
-     [](const QString&) {},
-     "StoragePath=/proc/none/web/\n",
-     {"La web no se ha publicado: /proc/none/web/index.html"}},
-    {"NoPicture",
-     [](const QString& data) { QFile::remove(data + "Pic1000101.dat"); },
-     "",
-     {"Referencia TAZ-01", kNotPublished}},
-    {"ServerThatIsNotThere",
-     [](const QString&) {},
-     "StorageMethod=1\nFTPServer=host.invalid\nFTPPath=/web\n",
-     {"host.invalid", "La web no se ha publicado: ftp://host.invalid/web"}},
-};
-
-class PublishRefusal : public Publish, public testing::WithParamInterface<Refusal> {};
-
-INSTANTIATE_TEST_SUITE_P(All, PublishRefusal, testing::ValuesIn(kRefusals),
-                         [](const auto& tested) { return tested.param.name; });
+INSTANTIATE_TEST_SUITE_P(All, PublishRefusal, testing::ValuesIn(ReadTable(TABLES, "refusals")),
+                         [](const auto& tested) { return tested.param[0].toStdString(); });
 
 } // namespace
 
 TEST_P(PublishRefusal, FailsWithAClearLineAndKeepsSettings) {
-    Settings(GetParam().settings);
-    GetParam().spoil(Data());
+    Spoil(GetParam()[1]);
+    Settings(GetParam()[2].toUtf8());
     const QByteArray before = home.SettingsText();
     EXPECT_EQ(Run(), 1) << said.toStdString();
-    for (const QString& line : GetParam().complaints) {
+    for (const QString& line : GetParam().mid(3)) {
         EXPECT_TRUE(complaint.contains(line)) << complaint.toStdString();
     }
     EXPECT_EQ(home.SettingsText(), before);
