@@ -48,17 +48,6 @@ void TypeOver(QLineEdit* box, const QString& text) {
     QTest::keyClicks(box, text);
 }
 
-const char* IconName(QMessageBox::Icon icon) {
-    switch (icon) {
-    case QMessageBox::Critical:
-        return "critical";
-    case QMessageBox::Warning:
-        return "warning";
-    default:
-        return "other";
-    }
-}
-
 QString MainState() {
     return QString("main %1, menu %2, rows %3, other webs %4, refresh %5%6%7")
         .arg(frmMain->windowTitle(), frmMain->mnuActionsC[0]->text())
@@ -73,7 +62,8 @@ QString MainState() {
 QString Seen() {
     QWidget* window = QApplication::activeModalWidget();
     if (auto* box = qobject_cast<QMessageBox*>(window)) {
-        return QString("box %1 %2: %3").arg(IconName(box->icon()), box->windowTitle(), box->text());
+        const QString icon = QVariant::fromValue(box->icon()).toString().toLower();
+        return QString("box %1 %2: %3").arg(icon, box->windowTitle(), box->text());
     }
     if (auto* login = qobject_cast<AppLoginForm*>(window)) {
         return "login " + login->windowTitle() + ": " + login->lblTop->text();
