@@ -87,7 +87,6 @@ TEST_F(Startup, AsksForThePasswordUntilItIsRightOrCancelled) {
         "login Lumenta: Por favor, introduzca la Contraseña para acceder a Lumenta:\n";
     const QString wrong = "box warning Lumenta: Contraseña incorrecta\n";
     home.Settings("[UI]\nUIPassword=Secreto\n");
-    const QString before = QString(home.SettingsText());
     EXPECT_EQ(Run({"password=secreto", "ok", "password=Secreto", "close"}),
               login + wrong + login + kOpen);
     EXPECT_EQ(code, 0);

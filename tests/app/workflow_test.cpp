@@ -27,6 +27,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 

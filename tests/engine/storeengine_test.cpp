@@ -15,7 +15,6 @@ void SetMode(const QString& path, mode_t mode) {
 }
 
 using StoreConnectionTest = StoreFixture;
-using StoreClaimTest = StoreFixture;
 
 constexpr uid_t kNobody = 65534;
 
@@ -100,7 +99,7 @@ TEST_F(StoreConnectionTest, SeesOtherProcessesAndNotItself) {
     EXPECT_TRUE(StoreClaim(Path()).Held());
 }
 
-TEST_F(StoreClaimTest, KeepsOtherProcessesOutWhileItLives) {
+TEST_F(StoreConnectionTest, AClaimKeepsOtherProcessesOutWhileItLives) {
     Leave();
     OtherProcess other([&](OtherProcess& parent) {
         while (parent.Hear() != 0) {
