@@ -1,7 +1,8 @@
 // What one generation has in memory, and its one way back to nothing.
 //
 // Each part has an owner, who alone writes it; parts are made in the order of the driver's stages
-// and live until the next generation:
+// and live until the next generation, the
+// files until they are delivered:
 //
 //   TemplateHeader, TemplateSections, SectionBodies, ImageSections   site/template
 //   OutputFiles                                                      site/outputs

@@ -28,7 +28,7 @@ bool SaveToFolder() {
 
 } // namespace
 
-bool DeliverSite(SiteSnapshot& /*snapshot*/) {
+bool DeliverSite() {
     const bool delivered = StorageMethod == kStorageFTP ? SendByFTP() : SaveToFolder();
     if (AbortPublish) {
         return delivered;

@@ -27,7 +27,7 @@
 
 namespace {
 
-// A run is under way: the files are its own, and so is the user's cancel.
+// A site or a page is being made: the files in memory are its own, and so is the user's cancel.
 bool generating = false;
 
 // All files of the site. The order counts: words, zones and choices exist before the pages that the
@@ -99,7 +99,7 @@ QString ExpandPreview(const PreviewRequest& request, SiteSnapshot& snapshot) {
 } // namespace
 
 bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot, bool changedOnly) {
-    if (templatePath.isEmpty() || !QFileInfo(templatePath).isFile()) {
+    if (generating || templatePath.isEmpty() || !QFileInfo(templatePath).isFile()) {
         return false;
     }
     const QScopedValueRollback<bool> run(generating, true);
@@ -126,7 +126,7 @@ bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot, bool chan
         return false;
     }
     NextStep();
-    return DeliverSite(snapshot);
+    return DeliverSite();
 }
 
 QString GeneratePreviewPage(const PreviewRequest& request, const QString& templatePath,
@@ -134,6 +134,8 @@ QString GeneratePreviewPage(const PreviewRequest& request, const QString& templa
     if (generating) {
         return {};
     }
+    const QScopedValueRollback<bool> run(generating, true);
+    const InputHold hold;
     SetAbortPublish(false);
     ResetGeneration();
     if (!LoadTemplateFile(templatePath)) {

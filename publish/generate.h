@@ -8,9 +8,9 @@
 
 // True if the site reached its destination. With `changedOnly` products that have not changed since
 // LastWebUpdate get no pages and pictures. False at once, without touching the step list, if the
-// template file is missing; false after a failed step if it is no template or delivery fails, or
-// after a cancel. Errors of the catalogue's content (a picture that can't be read) are thrown with
-// a text for the user.
+// template file is missing or a preview is just being made; false after a failed step if it is no
+// template or delivery fails, or after a cancel. Errors of the catalogue's content (a picture that
+// can't be read) are thrown with a text for the user.
 bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot, bool changedOnly);
 
 // Pages that can be looked at alone.

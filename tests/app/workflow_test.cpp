@@ -3,12 +3,15 @@
 #include "app/workflow.h"
 
 #include "app/mainscreen.h"
+#include "app/publishpage.h"
 #include "core/flavour.h"
 #include "core/settings.h"
+#include "editor/listrows.h"
 #include "forms/mainform.h"
 #include "forms/webpreviewform.h"
 #include "platform/usersettings.h"
 #include "publish/ftp.h"
+#include "publish/generate.h"
 #include "publish/md5control.h"
 #include "site/abort.h"
 #include "site/outputs.h"
@@ -376,4 +379,46 @@ TEST_F(Workflow, ACancelWhileConnectingShowsBeforeTheServerHasAnswered) {
     EXPECT_EQ(server.Record().Count("STOR"), 0);
     EXPECT_EQ(Recorded(), "");
     Expect({"ddff", "", kCancelled, 907, false, true});
+}
+
+// The files in memory are the preview's until it has ended.
+TEST_F(Workflow, ARunThatIsAskedForWhileAPreviewIsMadeDoesNotBegin) {
+    QObject user;
+    bool pressed = false;
+    QObject::connect(frmMain->prbProgress[kBarTask], &QProgressBar::valueChanged, &user, [&] {
+        if (!std::exchange(pressed, true)) {
+            Publish();
+        }
+    });
+    SiteSnapshot snapshot;
+    TakeSiteSnapshot(snapshot);
+    const QString page = GeneratePreviewPage({PreviewPage::Product, "10001"}, TemplPath, snapshot);
+    EXPECT_TRUE(pressed);
+    EXPECT_EQ(QFileInfo(page).fileName(), "p10001ES.html");
+    EXPECT_TRUE(QFileInfo(page).isFile());
+    EXPECT_EQ(StepLetters(), "tttt");
+    EXPECT_EQ(frmMain->lblInfo->text(), kHint);
+    EXPECT_EQ(Boxes(), "");
+    EXPECT_EQ(LastWebUpdate, kLongAgo);
+}
+
+TEST_F(Workflow, ThePageSaysWhatGoesWhereAndHowTheStepsOfThatWayStand) {
+    Publish();
+    EndSession();
+    EXPECT_EQ(StepLetters(), "dddd");
+    const QString folder = "/" + QString(70, u'a').replace(10, 1, "z");
+    SetStorage(kStorageLocal, folder);
+    SetTemplate(TemplPath, 0, 7);
+    RefreshPublishTab(false);
+    EXPECT_EQ(StepLetters(), "ddt");
+    EXPECT_EQ(frmMain->lblWhereSave[0]->text(), "Carpeta de acceso local:");
+    EXPECT_EQ(frmMain->lblWhereSave[1]->text(), folder.left(22) + "..." + folder.right(22));
+    EXPECT_EQ(frmMain->lblWhereSave[1]->toolTip(), folder);
+    EXPECT_EQ(frmMain->lblNumProducts[0]->text(),
+              "Productos Anunciados:   " + QString::number(ListRowCount()));
+    EXPECT_EQ(frmMain->lblNumProducts[1]->text(),
+              QString("Productos Destacados:   %1 de 7").arg(FeaturedCount));
+    TemplateBuilder().Name("Otro").Write(program.Folder(), "Default.zdt");
+    RefreshPublishTab(true);
+    EXPECT_EQ(frmMain->lblTemplName->text(), "Otro");
 }
