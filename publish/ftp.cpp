@@ -60,14 +60,16 @@ double CountedBytes(const OutputFile& file) {
     return double(file.Data.size()) - 1;
 }
 
+bool Differs(const OutputFile& file) {
+    return !IsFileUnchanged(file.Name, file.Md5);
+}
+
 // Returns the bytes that will be counted.
 double MarkChangedFiles(std::vector<OutputFile>& files) {
+    MarkForSending(files, Differs);
     double total = 0;
-    for (OutputFile& file : files) {
-        file.SendNow = !IsFileUnchanged(file.Name, file.Md5);
-        if (file.SendNow) {
-            total += CountedBytes(file);
-        }
+    for (const OutputFile& file : files) {
+        total += file.SendNow ? CountedBytes(file) : 0;
     }
     return total;
 }

@@ -109,6 +109,12 @@ void PutOutputFile(int place, OutputFile file) {
     OutputFiles.at(place) = std::move(file);
 }
 
+void MarkForSending(std::vector<OutputFile>& files, bool (*differs)(const OutputFile& file)) {
+    for (OutputFile& file : files) {
+        file.SendNow = differs(file);
+    }
+}
+
 void ClearOutputFiles() {
     OutputFiles.clear();
     drafts = {};

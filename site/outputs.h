@@ -12,7 +12,7 @@ struct OutputFile {
                   // its end
     QString Lang; // language code; empty for a file that serves all languages
     QByteArray Md5;       // 32 lower-case hexadecimal digits, set by the finishing pass
-    bool SendNow = false; // set by the FTP transport: differs from what was last sent
+    bool SendNow = false; // differs from what was last sent; see MarkForSending
     QByteArray Data;
     std::shared_ptr<char[]> Draft = nullptr; // keeps the bytes of an unfinished page alive
 };
@@ -33,6 +33,9 @@ void AddDraft(const QString& name, const QString& lang, const QByteArray& data);
 // again while it is reworked, and puts it back.
 OutputFile TakeOutputFile(int place);
 void PutOutputFile(int place, OutputFile file);
+
+// For the transport: the files of which `differs` says so are to be sent, the others aren't.
+void MarkForSending(std::vector<OutputFile>& files, bool (*differs)(const OutputFile& file));
 
 // Forgets all files.
 void ClearOutputFiles();
