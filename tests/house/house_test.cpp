@@ -22,7 +22,9 @@ SourceTexts ReadHouse() {
     const QDir top(SOURCE_FOLDER);
     SourceTexts texts;
     for (const QString& folder : top.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QDirIterator files(top.filePath(folder), {"*.h", "*.cpp", "CMakeLists.txt"}, QDir::Files);
+        QDirIterator files(top.filePath(folder),
+                           {"*.h", "*.hpp", "*.inc", "*.cpp", "*.cc", "CMakeLists.txt"},
+                           QDir::Files, QDirIterator::Subdirectories);
         while (!kBeside.contains(folder) && files.hasNext()) {
             const QString path = files.next();
             texts.insert(top.relativeFilePath(path), ReadText(path));
@@ -59,6 +61,12 @@ TEST(House, EveryFaultIsToldWithItsLines) {
         {"low/b.h", "", ""},
         {"low/b.h", "#include \"high/d.h\"",
          "low/b.h:1 (floor 1) needs high/d (floor 2) and high/d.h:2 needs low/a"},
+        {"low/b.h", "  # include <high/d.h>",
+         "low/b.h:1 (floor 1) needs high/d (floor 2) and high/d.h:2 needs low/a"},
+        {"low/b.h", "#include \"../high/d.cpp\"",
+         "low/b.h:1 (floor 1) needs high/d (floor 2) and high/d.h:2 needs low/a"},
+        {"low/CMakeLists.txt", "target_link_libraries(low PUBLIC high)",
+         "low/CMakeLists.txt:1 (floor 1) needs high (floor 2) and high/d.h:2 needs low/a"},
         {"beside/c.h", "\n\n#include \"low/b.h\"", "beside/c.h:3 (floor 1) needs low/b (floor 1)"},
         {"low/b.h", "#include \"low/a.h\"",
          "a circle: low/a.cpp:2 needs low/b, low/b.h:1 needs low/a"},

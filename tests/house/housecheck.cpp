@@ -1,5 +1,7 @@
 #include "housecheck.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
 #include <vector>
@@ -23,20 +25,27 @@ QString RoomOf(const QString& path) {
     return path.section(u'.', 0, 0);
 }
 
+// What an include names, seen from the top folder, without its ending.
+QString Resolved(const QString& file, const QString& name) {
+    const bool relative = name.startsWith(u'.');
+    return RoomOf(QDir::cleanPath(relative ? QFileInfo(file).path() + u'/' + name : name));
+}
+
 // All that `need` captures in a file.
 void AddUses(const QString& file, const QString& text, const QRegularExpression& need,
              std::vector<Use>& uses) {
     for (const QRegularExpressionMatch& match : need.globalMatch(text)) {
         const auto line = text.left(match.capturedStart(1)).count(u'\n') + 1;
-        uses.push_back({file, static_cast<int>(line), match.captured(1)});
+        uses.push_back({file, static_cast<int>(line), Resolved(file, match.captured(1))});
     }
 }
 
-// Includes first, then the libraries behind USES in the description of each wing.
+// Includes first, then the libraries in the description of each wing.
 std::vector<Use> ReadUses(const SourceTexts& texts) {
-    static const QRegularExpression kInclude(R"re(^\s*#\s*include\s*"([^"]+)\.h")re",
+    static const QRegularExpression kInclude(R"re(^\s*#\s*include\s*["<]([^">]+)[">])re",
                                              QRegularExpression::MultilineOption);
-    static const QRegularExpression kLibrary(R"re((?:\bUSES|(?!\A)\G)(?:\s|#[^\n]*)+([\w:]+))re");
+    static const QRegularExpression kLibrary(
+        R"re((?:\bUSES|\btarget_link_libraries\(\w+|(?!\A)\G)(?:\s|#[^\n]*)+([\w:]+))re");
     std::vector<Use> uses;
     std::vector<Use> libraries;
     for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
