@@ -356,11 +356,6 @@ int Recordset::Column(QStringView name) const {
     throw StoreError(kErrNoColumn, QStringLiteral("No existe la columna %1").arg(name));
 }
 
-const QString& Recordset::ColumnName(int column) const {
-    d->RequireOpen();
-    return d->result.columns.at(column).name;
-}
-
 Cell Recordset::Value(int column) const {
     d->RequireOpen();
     d->RequireColumn(column);

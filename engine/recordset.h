@@ -94,7 +94,6 @@ public:
 
     int ColumnCount() const;
     int Column(QStringView name) const; // 0-based; kErrNoColumn if absent
-    const QString& ColumnName(int column) const;
 
     // Fields of the current row (kErrNoCurrentRow without one).
     Cell Value(int column) const;

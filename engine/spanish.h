@@ -1,5 +1,4 @@
-// Spanish order and matching of texts: the collation SPANISH and the operator like, for the store
-// and for other rooms.
+// Spanish order and matching of texts: the collation SPANISH and the operator like, for the store.
 #pragma once
 
 #include <QStringView>

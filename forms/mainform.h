@@ -1,6 +1,6 @@
 // The main form: menus, the tab "Gestión Catálogo" with the product list and the editor, and the
 // tab "Actualizar Web" with the steps of a publish. Controls only; their handlers live in editor/
-// and publish/. Owns frmMain.
+// and app/. Owns frmMain.
 #pragma once
 
 #include "ui_mainform.h"

@@ -1,4 +1,4 @@
-// Writing design files, the counterpart of generator/template.
+// Writing design files, the counterpart of site/template.
 #pragma once
 
 #include "tools/design.h"

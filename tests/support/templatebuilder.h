@@ -30,7 +30,7 @@ public:
     // Writes the file into `folder` and returns its path.
     QString Write(const QString& folder, const QString& fileName = "Test.zdt") const;
 
-    // Makes it the loaded template of generator/template; the test fails where that is refused.
+    // Makes it the loaded template of site/template; the test fails where that is refused.
     void Load() const;
 
 private:
