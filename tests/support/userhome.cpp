@@ -41,9 +41,10 @@ QByteArray UserHome::Read(const QString& name) const {
 void UserHome::MakeCatalogue(const QString& folder, const QByteArray& statements) const {
     QDir(home.path()).mkpath(folder);
     const QString more = Write("more.sql", statements);
+    const QString delivery = DELIVERY "/";
     const ToolRun made =
-        RunTool(MAKESTORE, {Path(folder) + "/Zandora.zdb", DELIVERY "/schema.sql",
-                            DELIVERY "/languages.sql", DELIVERY "/texts.sql", more});
+        RunTool(MAKESTORE, {Path(folder) + "/Zandora.zdb", delivery + "schema.sql",
+                            delivery + "languages.sql", delivery + "texts.sql", more});
     EXPECT_EQ(made.code, 0) << made.complaint.toStdString();
 }
 
