@@ -1,11 +1,11 @@
 #include "tests/support/ftpserver.h"
 
 #include "tests/support/files.h"
+#include "tests/support/sockets.h"
 
 #include <QPointer>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <sys/socket.h>
 
 namespace {
 
@@ -21,16 +21,6 @@ const QHash<QByteArray, QList<QByteArray>> kUsualAnswers = {
     {"STOR", {"< 150 Go on", "= *", "< 226 Kept"}},
     {"QUIT", {"< 221 Bye", "! close"}},
 };
-
-// Closes so that the peer sees a reset, not an end.
-void Reset(QTcpSocket* socket) {
-    if (socket != nullptr) {
-        const linger now{1, 0};
-        setsockopt(static_cast<int>(socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &now,
-                   sizeof now);
-        socket->abort();
-    }
-}
 
 QByteArray Shown(const QByteArray& bytes) {
     return bytes.size() > 300 ? QByteArray::number(bytes.size()) + " bytes" : Escaped(bytes);
@@ -156,8 +146,8 @@ void FtpSessions::Advance() {
         } else if (line == "! close") {
             session->disconnectFromHost();
         } else if (line != "! deaf") {
-            Reset(transfer);
-            Reset(line == "! reset" ? session : nullptr);
+            ResetSocket(transfer);
+            ResetSocket(line == "! reset" ? session : nullptr);
         }
     }
     LookAtFile();
