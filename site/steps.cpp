@@ -24,6 +24,7 @@ struct Step {
     StepState state = StepState::ToDo;
 };
 std::array<Step, kStepCount> steps;
+int portalStep = kStepCount - 1;
 
 double timerStart = 0;        // seconds of the day: start of the transfer
 double timerMark = 0;         // seconds of the day: last estimate
@@ -56,17 +57,22 @@ void SetUpSteps() {
     // The generic trade has no portal.
     const QString portal =
         IsGenericFlavour() ? QString() : QStringLiteral("Sincronizar con %1").arg(VSname);
-    SetText(0, "Generar el Contenido Web");
-    SetText(1, "Comprobar y Listar los cambios");
+    QStringList texts = {"Generar el Contenido Web", "Comprobar y Listar los cambios"};
     if (StorageMethod == kStorageFTP) {
-        SetText(2, "Conectar con el Servidor Web");
-        SetText(3, "Enviar los Ficheros al Servidor Web");
-        SetText(4, portal);
+        texts << "Conectar con el Servidor Web"
+              << "Enviar los Ficheros al Servidor Web";
     } else {
-        SetText(2, "Guardar los Ficheros en Carpeta Local");
-        SetText(3, portal);
-        SetText(4, {});
+        texts << "Guardar los Ficheros en Carpeta Local";
     }
+    portalStep = static_cast<int>(texts.size());
+    texts << portal;
+    for (int step = 0; step < kStepCount; ++step) {
+        SetText(step, texts.value(step));
+    }
+}
+
+int PortalStep() {
+    return portalStep;
 }
 
 QString StepText(int step) {
@@ -112,7 +118,13 @@ void EndSteps() {
 }
 
 bool AnyStepFailed() {
-    return std::any_of(steps.begin(), steps.end(),
+    return std::any_of(steps.begin(), steps.end(), [](const Step& step) {
+        return step.state == StepState::Failed && !step.text.isEmpty();
+    });
+}
+
+bool SiteStepFailed() {
+    return std::any_of(steps.begin(), steps.begin() + portalStep,
                        [](const Step& step) { return step.state == StepState::Failed; });
 }
 

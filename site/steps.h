@@ -19,13 +19,18 @@ void SetUpSteps();
 QString StepText(int step); // empty: the run has no such step
 StepState StateOfStep(int step);
 
-void ResetSteps(); // every step to do
-void StartSteps(); // the first one current
-void NextStep();   // the current one done, the next one current
-void StepDone();   // the current one done, without moving
-void StepFailed(); // the current one failed, without moving
-void EndSteps();   // of a run that came to nothing: a step still current has failed
-bool AnyStepFailed();
+// Index of the portal's step, the last one of every run; those before it bring the site to its
+// destination. A trade without a portal doesn't show it.
+int PortalStep();
+
+void ResetSteps();     // every step to do
+void StartSteps();     // the first one current
+void NextStep();       // the current one done, the next one current
+void StepDone();       // the current one done, without moving
+void StepFailed();     // the current one failed, without moving
+void EndSteps();       // of a run that came to nothing: a step still current has failed
+bool AnyStepFailed();  // of those that are shown
+bool SiteStepFailed(); // of those that bring the site to its destination
 
 // The bars, by their index on the page.
 enum ProgressBar { kBarTask = 0, kBarAllTasks = 1 };
