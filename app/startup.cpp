@@ -16,6 +16,7 @@
 #include "platform/events.h"
 #include "platform/instance.h"
 #include "platform/process.h"
+#include "portal/pool.h"
 #include "store/corpinfo.h"
 #include "store/fielddefs.h"
 #include "store/languages.h"
@@ -25,6 +26,9 @@ namespace {
 
 constexpr int kSmallestWidth = 800; // pixels of the screen
 constexpr int kPasswordBlanks = 255;
+
+// For a request to the portal that still goes out when its run is over: milliseconds.
+constexpr int kPortalEnd = 3000;
 
 // Set by the password dialog alone: the application password was given correctly.
 bool loginPassed = false;
@@ -211,5 +215,9 @@ void EndProgram(bool& cancel) {
         return;
     }
     SaveSettings();
+    if (PortalGoesOut()) {
+        frmMain->hide();
+        FinishPortal(kPortalEnd);
+    }
     EndProcess(EXIT_SUCCESS);
 }

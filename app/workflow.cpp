@@ -8,6 +8,7 @@
 #include "forms/mainform.h"
 #include "platform/controls.h"
 #include "platform/dialogs.h"
+#include "portal/session.h"
 #include "publish/generate.h"
 #include "site/abort.h"
 #include "site/steps.h"
@@ -64,11 +65,25 @@ bool RunGeneration() {
     return delivered;
 }
 
+// Of a run that has brought the site to its destination.
+QString DeliveredText() {
+    if (SiteStepFailed()) {
+        return "La actualización ha terminado con errores.";
+    }
+    const bool portal = !StepText(PortalStep()).isEmpty();
+    if (portal && AbortPublish) {
+        return QString("La web se ha publicado. Se ha cancelado el envío a %1.").arg(VSname);
+    }
+    if (portal && !PortalProblem.isEmpty()) {
+        return "La web se ha publicado. " + PortalProblem;
+    }
+    return "Última actualización: " + LastWebUpdate;
+}
+
 // What the page says until the next run; `before` where the run ended before its first step.
 QString OutcomeText(const QString& before) {
     if (LastOutcome == PublishOutcome::Delivered) {
-        return AnyStepFailed() ? QStringLiteral("La actualización ha terminado con errores.")
-                               : "Última actualización: " + LastWebUpdate;
+        return DeliveredText();
     }
     if (AbortPublish) {
         return "Actualización cancelada.";
@@ -104,6 +119,10 @@ void ConnectPublish() {
         QObject::connect(frmMain->cmdUpdateWeb[index], &QPushButton::clicked, frmMain,
                          [index] { cmdUpdateWeb_Click(index); });
     }
+}
+
+bool PublishUnderWay() {
+    return publishing;
 }
 
 void cmdUpdateWeb_Click(int index) {

@@ -9,6 +9,9 @@ extern PublishOutcome LastOutcome; // written here; None until a run has ended
 // Connects the buttons of the page "Actualizar Web".
 void ConnectPublish();
 
+// A run has begun and isn't over, also if it has been cancelled.
+bool PublishUnderWay();
+
 // Either PublishButton: kPublishUpdate starts a run and returns when it is over, kPublishCancel
 // cancels it.
 void cmdUpdateWeb_Click(int index);

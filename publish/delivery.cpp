@@ -1,6 +1,7 @@
 #include "publish/delivery.h"
 
 #include "core/settings.h"
+#include "portal/session.h"
 #include "publish/ftp.h"
 #include "site/abort.h"
 #include "site/outputs.h"
@@ -28,13 +29,14 @@ bool SaveToFolder() {
 
 } // namespace
 
-bool DeliverSite() {
+bool DeliverSite(SiteSnapshot& snapshot) {
     const bool delivered = StorageMethod == kStorageFTP ? SendByFTP() : SaveToFolder();
     if (AbortPublish) {
         return delivered;
     }
     NextStep();
     ClearOutputFiles();
+    PortalSync(snapshot);
     SetOverallProgress(kAllTasks);
     return delivered;
 }

@@ -126,7 +126,7 @@ bool GenerateSite(const QString& templatePath, SiteSnapshot& snapshot, bool chan
         return false;
     }
     NextStep();
-    return DeliverSite();
+    return DeliverSite(snapshot);
 }
 
 QString GeneratePreviewPage(const PreviewRequest& request, const QString& templatePath,

@@ -10,6 +10,8 @@
 #include "platform/events.h"
 #include "platform/notify.h"
 #include "platform/process.h"
+#include "portal/pool.h"
+#include "portal/session.h"
 #include "site/outputs.h"
 #include "site/steps.h"
 
@@ -18,13 +20,8 @@
 
 namespace {
 
-// Steps that bring the site to its destination; what follows them is the portal's.
-constexpr int kFolderSteps = 3;
-constexpr int kFTPSteps = 4;
-
-// Written by PrintStep: a step up to the delivery has failed. A file that could not be sent leaves
-// the run itself a success, as the button has it.
-bool siteStepFailed = false;
+// For a request to the portal that still goes out when the run is over: milliseconds.
+constexpr int kPortalEnd = 60'000;
 
 void PrintLine(std::FILE* stream, const QString& line) {
     std::fputs((line + "\n").toUtf8().constData(), stream);
@@ -44,8 +41,6 @@ void PrintStep(int index, StepState state) {
         break;
     case StepState::Failed:
         PrintLine(stdout, line + ": ERROR");
-        siteStepFailed =
-            siteStepFailed || index < (StorageMethod == kStorageFTP ? kFTPSteps : kFolderSteps);
         break;
     }
 }
@@ -83,7 +78,12 @@ int main(int argc, char** argv) {
     SetUpSteps();
     ListenToPublish({.step = PrintStep});
     cmdUpdateWeb_Click(kPublishUpdate);
-    if (LastOutcome != PublishOutcome::Delivered || siteStepFailed) {
+    FinishPortal(kPortalEnd);
+    if (!PortalProblem.isEmpty() && !StepText(PortalStep()).isEmpty()) {
+        PrintLine(stderr, PortalProblem);
+    }
+    // A file that could not be sent leaves the run itself a success, as the button has it.
+    if (LastOutcome != PublishOutcome::Delivered || SiteStepFailed()) {
         PrintLine(stderr, "La web no se ha publicado: " + Destination());
         EndProcess(EXIT_FAILURE);
     }
