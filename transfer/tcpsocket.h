@@ -1,14 +1,20 @@
 // A TCP connection in the event loop, for protocols that the program speaks itself. Names are
 // resolved and connections made without waiting; everything is told by signals, and in any slot of
 // them the socket may be closed and connected anew.
+//
+// It stands on the system's calls. The toolkit's socket reports an end in order and a broken
+// connection alike where it finds out by writing, and connects again by itself, without a pause or
+// a word, to a peer that resets every connection at once.
 #pragma once
 
 #include <QByteArray>
+#include <QHostAddress>
+#include <QList>
 #include <QObject>
 #include <QString>
-#include <memory>
 
-class QTcpSocket;
+class QHostInfo;
+class QSocketNotifier;
 class QTimer;
 
 enum SocketState {
@@ -66,16 +72,29 @@ signals:
     void SendCompleted();    // the system has taken all that was handed over
 
 private:
-    void Open(const QString& host, int port);
-    void OnConnected();
-    void OnError();
-    bool EndedInOrder() const;
+    void LookUp();
+    void OnLookedUp(const QHostInfo& info);
+    void TryNextAddress(int reason);
+    bool StartConnect(const QHostAddress& address);
+    void OnConnectEnded();
+    void Read();
+    void Write();
+    void EndInOrder();
     void Fail(int number);
+    void CloseHandle();
 
-    std::unique_ptr<QTcpSocket> socket; // none unless a connection is made or stands
-    QTimer* turn;                       // until Connect may start
     SocketState state = kSocketClosed;
+    int handle = -1;
+    QSocketNotifier* reader;
+    QSocketNotifier* writer; // while a connection is made, or bytes wait to be taken
+    QTimer* timer;           // until a connect may start, and until it has taken too long
+    QString peerHost;
+    int peerPort = 0;
     int localPort = 0;
-    int witness = -1;    // a second handle of the connection, which the toolkit doesn't close
+    int lookup = -1;               // under way
+    QList<QHostAddress> addresses; // of the host that have not been tried yet
+    QByteArray received;
+    QByteArray toSend;
+    qsizetype sent = 0;  // bytes of toSend
     bool failed = false; // the last connection
 };

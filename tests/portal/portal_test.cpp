@@ -122,7 +122,7 @@ protected:
         return names.join(u' ').toStdString();
     }
 
-    QString host = "127.0.0.1";
+    QString host = "localhost";
     std::unique_ptr<PortalPeer> peer;
     std::unique_ptr<TestCatalogue> catalogue;
     QTimer clock;
@@ -165,6 +165,7 @@ qsizetype HomesOf(const QList<QByteArray>& requests) {
 } // namespace
 
 TEST_F(Portal, EveryRequestIsWhatThePortalExpects) {
+    host = "127.0.0.1";
     const QByteArray page = kAgent + "<!--ProductId=1000--><!--ProductId=10003--><!--ProductId=1";
     EXPECT_EQ(Run(After(Good, page), kHomes, "P10009|I1000903"), 'd');
     EXPECT_EQ(Names(), "PI-22 Fotografia2 PI-12 Fotografia2 Eliminar2 Eliminar2");
