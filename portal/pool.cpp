@@ -40,7 +40,8 @@ std::array<QPointer<TcpSocket>, kPortalSockets> sockets;
 bool running = false;       // from the beginning of a session to its end
 qsizetype unfinished = 0;   // bytes of the requests that are
 QElapsedTimer lastProgress; // since the portal has done something
-QElapsedTimer lastShown;    // since the counts were told
+QString shownCounts;        // as the user reads them,
+QElapsedTimer lastShown;    // and since when
 
 bool IsQueued(const PortalJob& job) {
     return job.State == kJobWaiting && !job.Request.isEmpty();
@@ -52,16 +53,23 @@ bool AnyJob(bool (*is)(const PortalJob&)) {
 
 // No more often than an eye can see: each change of a text lays the form out anew.
 void ShowCounts() {
-    if (!running) {
+    if (!running || !PortalLoggedIn || AbortPublish) {
         return;
     }
-    const int rows = static_cast<int>(PortalJobs.size());
-    SetProgress(PortalDoneCount, rows, 0, kBarTask);
+    const QString text =
+        QString("Enviando a %1: %2 de %3").arg(VSname).arg(PortalDoneCount).arg(PortalJobs.size());
     const bool readable = !lastShown.isValid() || lastShown.hasExpired(kServeInterval);
-    if (PortalLoggedIn && readable && !AbortPublish) {
-        ReportActivity(
-            QString("Enviando a %1: %2 de %3").arg(VSname).arg(PortalDoneCount).arg(rows));
+    if (readable && text != shownCounts) {
+        ReportActivity(text);
+        shownCounts = text;
         lastShown.start();
+    }
+}
+
+void ShowProgress() {
+    if (running) {
+        SetProgress(PortalDoneCount, static_cast<int>(PortalJobs.size()), 0, kBarTask);
+        ShowCounts();
     }
 }
 
@@ -84,7 +92,7 @@ void TakeJob(int index, bool wasIdle) {
         PortalJobs[chosen].State = kJobOnSocket;
         wskPortal(index).SendData(PortalJobs[chosen].Request);
     }
-    ShowCounts();
+    ShowProgress();
 }
 
 void FinishJob(PortalJob& job) {
@@ -93,7 +101,7 @@ void FinishJob(PortalJob& job) {
     job.State = kJobFinished;
     job.Request = {};
     ++PortalDoneCount;
-    ShowCounts();
+    ShowProgress();
 }
 
 // The portal has closed a connection that stood idle while a request set out on it, which it has
@@ -199,6 +207,7 @@ void ResetPortal(const QString& host) {
     running = true;
     lastProgress.start();
     lastShown.invalidate();
+    shownCounts.clear();
 }
 
 void SetPortalLoggedIn() {
@@ -232,6 +241,7 @@ bool PortalGivenUp() {
 bool WaitForPortal(const std::function<bool()>& done) {
     while (!done() && !PortalGivenUp()) {
         WaitForEvents();
+        ShowCounts();
     }
     return done();
 }

@@ -35,6 +35,10 @@ bool DeliverSite(SiteSnapshot& snapshot) {
         return delivered;
     }
     NextStep();
+    while (StepIndex < PortalStep()) { // what a connection that failed has left undone
+        StepFailed();
+        NextStep();
+    }
     ClearOutputFiles();
     PortalSync(snapshot);
     SetOverallProgress(kAllTasks);

@@ -10,6 +10,7 @@
 #include "forms/mainform.h"
 #include "forms/webpreviewform.h"
 #include "platform/usersettings.h"
+#include "portal/pool.h"
 #include "publish/ftp.h"
 #include "publish/generate.h"
 #include "publish/md5control.h"
@@ -20,6 +21,7 @@
 #include "tests/support/boxes.h"
 #include "tests/support/files.h"
 #include "tests/support/ftpserver.h"
+#include "tests/support/portalpeer.h"
 #include "tests/support/program.h"
 #include "tests/support/templatebuilder.h"
 #include "text/dates.h"
@@ -72,6 +74,8 @@ struct Outcome {
 
 class Workflow : public testing::Test {
 protected:
+    explicit Workflow(Trade trade = Trade::Generic) : program(kSmallCatalogue, trade) {}
+
     void SetUp() override {
         ConnectPublish();
         SetFTP("127.0.0.1", "/web", "ana", "clave");
@@ -140,7 +144,7 @@ protected:
     std::string Boxes() const {
         QStringList texts;
         for (const SeenBox& box : boxes.seen) {
-            EXPECT_EQ(box.title, "Lumenta");
+            EXPECT_EQ(box.title, AppName);
             texts += (box.icon == QMessageBox::Warning ? "warning: " : "information: ") + box.text;
         }
         return texts.join(u'|').toStdString();
@@ -236,6 +240,35 @@ protected:
     QByteArray stallsAt = "STOR"; // the command that it leaves without a reply
     QTimer clock;
 };
+
+// An agency, whose runs go on to the portal.
+class Agency : public Workflow {
+protected:
+    Agency() : Workflow(Trade::RealEstate) {}
+
+    ~Agency() override { ClosePortalSockets(); }
+
+    // The site goes to the FTP server, the portal is the peer.
+    void PublishAs(const QString& user, const PortalPeer::Manners& manners) {
+        peer = std::make_unique<PortalPeer>(manners);
+        PortalPort = peer->Port();
+        SaveSetting(AppName, "Vestalia", "VSurl", "127.0.0.1");
+        LoadSettings();
+        SetFTP("127.0.0.1", "/web", "ana", "clave");
+        Begin();
+        SetPortalAccount(user, "clave");
+        SelectMainTab(kTabPublish);
+        prepare();
+        Publish();
+    }
+
+    std::function<void()> prepare = [] {};
+    std::unique_ptr<PortalPeer> peer;
+};
+
+PortalManners Portal(int /*connection*/) {
+    return {.answer = LoginPage({}, "<!--AgentId=7-->")};
+}
 
 } // namespace
 
@@ -421,4 +454,54 @@ TEST_F(Workflow, ThePageSaysWhatGoesWhereAndHowTheStepsOfThatWayStand) {
     TemplateBuilder().Name("Otro").Write(program.Folder(), "Default.zdt");
     RefreshPublishTab(true);
     EXPECT_EQ(frmMain->lblTemplName->text(), "Otro");
+}
+
+TEST_F(Agency, ThePortalsOutcomeStandsInItsOwnStepAndNotInThatOfTheSite) {
+    using End = PortalManners::End;
+    const auto silent = [](int connection) {
+        return connection == 0 ? Portal(0) : PortalManners{.answer = "", .end = End::StayOpen};
+    };
+    const auto cancelsWhenSilent = [this] {
+        QObject::connect(&clock, &QTimer::timeout, frmMain, [this] {
+            const bool told = frmMain->lblInfo->text() == "Enviando a Vestalia: 0 de 6";
+            if (told && peer->Requests().size() == 7 && !AbortPublish) {
+                EXPECT_EQ(StepLetters(), "ddddc");
+                ExpectScreens(true);
+                Cancel();
+            }
+        });
+    };
+    const struct {
+        const char* user;
+        PortalPeer::Manners manners;
+        std::function<void()> prepare;
+        qsizetype requests;
+        Outcome outcome;
+    } kRuns[] = {
+        {"",
+         Portal,
+         [] {},
+         0,
+         {"ddddf", "", "La web se ha publicado. Falta el usuario de Vestalia", 910, true, false}},
+        {"ana", Portal, [] {}, 7, {"ddddd", "", "Última actualización", 510, true, false}},
+        {"ana",
+         Portal,
+         [this] { Prepare("wrong password"); },
+         7,
+         {"ddffd", "warning: Error al conectar con el servidor FTP '127.0.0.1'. 530 Who?", kNotDone,
+          510, false, false}},
+        {"ana",
+         silent,
+         cancelsWhenSilent,
+         7,
+         {"ddddf", "", "La web se ha publicado. Se ha cancelado el envío a Vestalia.", 10, true,
+          false}},
+    };
+    for (const auto& run : kRuns) {
+        prepare = run.prepare;
+        PublishAs(run.user, run.manners);
+        EXPECT_EQ(peer->Requests().size(), run.requests);
+        Expect(run.outcome);
+        EndSession();
+    }
 }

@@ -14,6 +14,7 @@
 #include "store/languages.h"
 #include "store/store.h"
 #include "tests/support/files.h"
+#include "tests/support/userhome.h"
 #include "text/numbers.h"
 
 #include <QDialog>
@@ -47,11 +48,7 @@ namespace {
 void ChooseTrade(Trade trade) {
     QTemporaryDir folder;
     if (trade == Trade::RealEstate) {
-        QByteArray file =
-            "ZAND\r\nINMO\r\nZandora\r\nInmueble\r\nInmuebles\r\nM\r\nZona\r\nZona del "
-            "inmueble\r\n[N/A]\r\n";
-        std::transform(file.begin(), file.end(), file.begin(), std::bit_not<char>());
-        WriteFile(folder.filePath("sector.dat"), file + '\0');
+        WriteAgencyFlavour(folder.path());
     }
     LoadFlavour(folder.path() + u'/');
 }

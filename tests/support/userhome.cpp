@@ -23,6 +23,13 @@ ToolRun RunTool(const QString& program, const QStringList& arguments,
             QString::fromUtf8(tool.readAllStandardError())};
 }
 
+void WriteAgencyFlavour(const QString& folder) {
+    QByteArray file = "ZAND\r\nINMO\r\nZandora\r\nInmueble\r\nInmuebles\r\nM\r\nZona\r\nZona del "
+                      "inmueble\r\n[N/A]\r\n";
+    std::transform(file.begin(), file.end(), file.begin(), std::bit_not<char>());
+    WriteFile(folder + "/sector.dat", file + '\0');
+}
+
 UserHome::UserHome() {
     for (const char* folder : {"config/Lumenta", "config/Zandora", "run", "data"}) {
         QDir(home.path()).mkpath(folder);

@@ -17,6 +17,9 @@ struct ToolRun {
 ToolRun RunTool(const QString& program, const QStringList& arguments,
                 const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
 
+// Puts the flavour file of the agencies, which are called Zandora, into a folder.
+void WriteAgencyFlavour(const QString& folder);
+
 class UserHome {
 public:
     // With the folders of the settings and of the session, and "data" for a catalogue.

@@ -120,6 +120,15 @@ TEST_F(Publish, OddSettingsCountAsTheirDefaults) {
     EXPECT_TRUE(home.SettingsText().contains("UIPassword=secreto\n"));
 }
 
+TEST_F(Publish, AnAgencysSiteIsPublishedWhateverBecomesOfThePortal) {
+    QFile::copy(PUBLISH, home.Path("publish"));
+    WriteAgencyFlavour(home.Path());
+    home.Settings("TemplateLangs=ES\n", "data", "Zandora");
+    EXPECT_EQ(Run({}, home.Path("publish")), 0) << complaint.toStdString();
+    EXPECT_TRUE(said.contains("\n4. Sincronizar con Vestalia: ERROR\nLa web se ha publicado"));
+    EXPECT_EQ(complaint, "Falta el usuario de Vestalia: Configuración, Otras Webs.\n");
+}
+
 // The defaults point beside the program, where a test may not publish.
 TEST_F(Publish, ADamagedSettingsFileIsLeftAloneWhenTheRunFails) {
     const QByteArray damaged("\0\1\2", 3);
