@@ -3,12 +3,12 @@
 // run as root; Pure-FTPd alone needs root and is left out without it.
 #pragma once
 
+#include "tests/support/serverprocess.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QMap>
-#include <QProcess>
 #include <QString>
-#include <QTemporaryDir>
 
 enum class ServerKind { Pyftpdlib, ProFTPD, Vsftpd, PureFTPd };
 
@@ -27,7 +27,6 @@ public:
     static QString Obstacle(ServerKind kind);
 
     explicit RealServer(ServerKind kind);
-    ~RealServer();
 
     // The port of its control connection; 0, after ten seconds, if it says nothing there.
     int Start(const ServerChoices& choices);
@@ -51,6 +50,5 @@ private:
     QByteArray OnDisk(const QString& path) const;
 
     ServerKind kind;
-    QTemporaryDir folder;
-    QProcess process;
+    ServerProcess server;
 };

@@ -1,11 +1,12 @@
-# Becomes an FTP server of the tests:
+# Becomes a server of the tests, for FTP or, of the kind "portal", the property portal:
 #   sh start.sh KIND SERVERS HOST PORT FOLDER USER PASSWORD LITTLE
 # on HOST and PORT, with 100 ports behind it for files; SERVERS holds what ./test has unpacked,
 # home/ in FOLDER is what visitors see, commands.log beside it the list of their commands. Where
-# LITTLE is 1 there is room for 300,000 bytes at the most. With KIND and SERVERS alone it says why
-# that server can't run here, or nothing.
+# LITTLE is 1 there is room for 300,000 bytes at the most. What the portal has received lies in
+# received/ in FOLDER. With KIND and SERVERS alone it says why that server can't run here, or nothing.
 #
-# An ordinary user runs all but Pure-FTPd. Whoever is forgotten ends by itself after 100 seconds.
+# An ordinary user runs all but Pure-FTPd. Whoever is forgotten ends by itself after LIFETIME seconds,
+# which are 100 unless the environment says otherwise; 0 is for ever.
 set -e
 kind=$1 servers=$2/usr
 here=$(dirname "$0")
@@ -20,6 +21,7 @@ if [ $# = 2 ]; then
     needed=$((0x800004)) # CAP_SYS_NICE and CAP_DAC_READ_SEARCH
     program=$servers/sbin/$kind
     [ "$kind" != pyftpdlib ] || program=/usr/lib/python3/dist-packages/pyftpdlib
+    [ "$kind" != portal ] || program=$servers/sbin/haproxy
     if [ "$kind" = pure-ftpd ] && { [ -z $root ] || [ $((rights & needed)) != $needed ]; }; then
         echo "Pure-FTPd runs for root alone, and in a container with all of root's rights"
     elif [ "$kind" = proftpd ] && [ -z "$name" ]; then
@@ -68,6 +70,19 @@ pure-ftpd)
     set -- ./pure-ftpd --noanonymous --dontresolve --bind "$host,$port" --passiveportrange \
         "$first:$last" --login "puredb:$folder/accounts.pdb" --pidfile "$folder/pid"
     ;;
+portal)
+    cp -r "$here/../portal" "$servers"/sbin/haproxy "$servers"/sbin/nginx "$servers"/sbin/php-fpm8.2 .
+    mkdir -p tmp received/inmuebles received/albumes received/fotos
+    printf '%s\n' "$user" "$password" >account
+    for conf in haproxy.cfg php-fpm.conf; do
+        sed "s|@HOST@|$host|; s|@PORT@|$port|; s|@FOLDER@|$folder|" "portal/$conf" >$conf
+    done
+    set -- sh -c './php-fpm8.2 -n -p . -y php-fpm.conf & behind=$!
+        ./nginx -p "$PWD/" -c portal/nginx.conf & behind="$behind $!"
+        until [ -S php.sock ] && [ -S nginx.sock ]; do sleep 0.05; done
+        ./haproxy -f haproxy.cfg || true
+        kill $behind'
+    ;;
 esac
 chmod -f 600 accounts server.conf || true
 if [ -n "$root" ]; then
@@ -82,4 +97,4 @@ elif [ "$little" = 1 ]; then
     trap '' XFSZ
     set -- prlimit --fsize=300000 "$@"
 fi
-exec setpriv --pdeathsig TERM timeout 100 "$@"
+exec setpriv --pdeathsig TERM timeout "${LIFETIME:-100}" "$@"
