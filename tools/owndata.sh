@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# What the program that ./run starts owns in its checkout: settings and catalogue. Sourced from the top
-# folder, whose real path PWD must hold.
+# What the program that ./run starts owns in its checkout, settings and catalogue, and the screen that it
+# gets. Sourced from the top folder, whose real path PWD must hold.
 
 programs=build/release/bin/
 
@@ -54,4 +54,24 @@ lay_out_sample() {
     if [ ! -e "$settings" ]; then
         (umask 077 && mkdir -p "${settings%/*}" && printf '[Params]\nUserLangs=ES|EN\n' >"$settings")
     fi
+}
+
+# The web engine would tell the terminal all about itself.
+quiet_web_engine() {
+    export QT_LOGGING_RULES=${QT_LOGGING_RULES:-default.info=false;qt.webenginecontext=false}
+    export QTWEBENGINE_CHROMIUM_FLAGS=${QTWEBENGINE_CHROMIUM_FLAGS:---log-level=3}
+}
+
+# screen_platform: what the toolkit calls the screen that can be used, empty if that is what it takes by
+# itself; fails if there is none.
+screen_platform() {
+    local platform
+    [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || return 1
+    for platform in "${QT_QPA_PLATFORM:-}" xcb wayland; do
+        if QT_QPA_PLATFORM=$platform timeout 20 "${programs}hasscreen" >/dev/null 2>&1; then
+            echo "$platform"
+            return
+        fi
+    done
+    return 1
 }

@@ -21,12 +21,12 @@ logged() {
     return 1
 }
 
-# as_root COMMAND...: fails without a sudo that lets this user through.
+# as_root COMMAND...: fails without a sudo that lets this user through. What it is for, "purpose" tells.
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
     else
-        sudo -p "Contraseña de %u, para instalar lo que falta: " "$@"
+        sudo -p "Contraseña de %u, para ${purpose:-instalar lo que falta}: " "$@"
     fi
 }
 

@@ -43,7 +43,7 @@ function printHome(string $number): void
     echo '<p class="precio">', price($field('PriceAmount')), ' <small>';
     echo shown($field('PriceInPta')), '</small></p><ul>';
     foreach (FACTS as $name => $unit) {
-        if ($field($name) !== '') {
+        if (!in_array($field($name), ['', '0'])) {
             echo '<li>', shown($field($name)), own($unit), '</li>';
         }
     }

@@ -77,7 +77,8 @@ portal)
     for conf in haproxy.cfg php-fpm.conf; do
         sed "s|@HOST@|$host|; s|@PORT@|$port|; s|@FOLDER@|$folder|" "portal/$conf" >$conf
     done
-    set -- sh -c './php-fpm8.2 -n -p . -y php-fpm.conf & behind=$!
+    # PHP makes a process group of its own, and ends with its parent instead.
+    set -- sh -c 'setpriv --pdeathsig TERM ./php-fpm8.2 -n -p . -y php-fpm.conf & behind=$!
         ./nginx -p "$PWD/" -c portal/nginx.conf & behind="$behind $!"
         until [ -S php.sock ] && [ -S nginx.sock ]; do sleep 0.05; done
         ./haproxy -f haproxy.cfg || true
