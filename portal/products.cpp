@@ -120,7 +120,9 @@ void QueueDeletions() {
 }
 
 bool IsOnPortal(const QString& productId) {
-    return PortalLoginPage.contains("<!--ProductId=" + ToAnsi(productId) + "-->");
+    const QByteArray mark = "<!--ProductId=" + ToAnsi(productId) + "-->";
+    const std::string_view page(PortalLoginPage.constData(), size_t(PortalLoginPage.size()));
+    return page.find(mark.constData()) != std::string_view::npos;
 }
 
 int PortalPropertyType(const QString& text) {

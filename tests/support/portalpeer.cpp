@@ -68,6 +68,10 @@ void PortalSessions::Accept(QTcpSocket* socket) {
 
 void PortalSessions::Hear(QTcpSocket* socket, QByteArray& heard, const PortalManners& how) {
     heard += socket->readAll();
+    if (how.deaf) {
+        socket->disconnectFromHost();
+        return;
+    }
     if (how.resetAt > 0 && heard.size() >= how.resetAt) {
         ResetSocket(socket);
         return;

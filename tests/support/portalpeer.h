@@ -13,6 +13,7 @@ struct PortalManners {
     enum class End { Close, Reset, StayOpen } end = End::Close; // what follows it
     qsizetype resetAt = -1; // cuts the connection when so many bytes have come; -1: never
     int idle = -1;          // closes it in order after so long without a byte: milliseconds
+    bool deaf = false;      // closes it in order instead of hearing the first byte
 };
 
 class PortalSessions;
