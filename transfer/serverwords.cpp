@@ -25,6 +25,7 @@ void ServerWords::Clear() {
 
 void ServerWords::AddLine(const QByteArray& line) {
     if (line.startsWith(kStatusLine)) {
+        status = line.mid(line.indexOf(' ') + 1).left(kReplyCodeLength).toInt();
         headers.clear();
         lastHeader.clear();
         unfinished.clear();

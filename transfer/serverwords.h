@@ -14,6 +14,9 @@ public:
     // of a redirection don't count.
     void AddLine(const QByteArray& line);
 
+    // Code of the last status line (RFC 9112), such as 404; 0 if there is none.
+    int Status() const { return status; }
+
     // Value of a header without regard to case, the first one of that name; empty if absent.
     QString Header(const QString& name) const;
 
@@ -32,6 +35,7 @@ private:
     QByteArray unfinished;
     QHash<QByteArray, QByteArray> headers; // by lower-case name
     QByteArray lastHeader;                 // its name; empty if a second one of that name
+    int status = 0;
 };
 
 // What a message box can show of a reply.

@@ -185,13 +185,20 @@ void TransferClient::Cancel() {
     }
 }
 
+int TransferClient::HttpStatus() const {
+    return request->words.Status();
+}
+
 QString TransferClient::GetHeader(const QString& name) const {
     return request->words.Header(name);
 }
 
 QByteArray TransferClient::GetChunk(int size) {
-    QByteArray chunk = request->body.mid(request->bodyRead, std::max(size, 0));
-    request->bodyRead += chunk.size();
+    QByteArray chunk = request->body.left(std::max(size, 0));
+    request->body.remove(0, chunk.size());
+    if (request->body.isEmpty()) {
+        request->body.clear(); // with its memory
+    }
     return chunk;
 }
 

@@ -46,7 +46,8 @@ public:
     void CloseSession(); // a success at once where there is none
 
     // Starts an HTTP request of `method` ("GET") and returns at once; header and body are kept for
-    // GetHeader and GetChunk. Redirections are followed; an error page is an answer, no failure.
+    // GetHeader and GetChunk. Redirections are followed; an error page is an answer, no failure,
+    // and told from a document by HttpStatus.
     void Execute(const QString& url, const QString& method);
 
     // The whole document as text, waiting in the event loop; empty after a failure.
@@ -62,10 +63,14 @@ public:
     // may be called from a slot of StateChanged, and so may the client's deletion.
     void Cancel();
 
+    // Status code of the last HTTP response (RFC 9110), 200 for a document; 0 while there is none.
+    int HttpStatus() const;
+
     // Value of a header of the last HTTP response, without regard to case; empty if absent.
     QString GetHeader(const QString& name) const;
 
-    // The next part of the body, at most `size` bytes; empty at its end and for no size.
+    // The next part of the body, at most `size` bytes: from the first byte on, while the request
+    // still runs; empty where no more has come, and for no size. What is taken is no longer held.
     QByteArray GetChunk(int size);
 
 signals:

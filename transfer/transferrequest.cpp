@@ -19,7 +19,7 @@ constexpr int kLastWords = 300;
 // What waits in this machine for a slow line to take it counts as sent in the progress: bytes.
 constexpr int kSendBuffer = 256 * 1024;
 
-// No document is larger: a peer that never stops must not fill the memory. Bytes.
+// Nobody lets more of a body lie: a peer that never stops must not fill the memory. Bytes.
 constexpr qsizetype kLargestBody = qsizetype{1} << 30;
 
 constexpr long kMostRedirects = 10;
@@ -79,7 +79,6 @@ void TransferRequest::Reset(int seconds) {
     words.Clear();
     cutReason.clear();
     body.clear();
-    bodyRead = 0;
     asked = false;
     answered = false;
     allSent = false;

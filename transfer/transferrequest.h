@@ -63,8 +63,7 @@ public:
 
     ServerWords words;
     QByteArray cutReason; // what a server said when it cut an upload, or none
-    QByteArray body;
-    qsizetype bodyRead = 0;
+    QByteArray body;      // what nobody has taken yet
 
 private:
     explicit TransferRequest(std::function<void(int)> report);

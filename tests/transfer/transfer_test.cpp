@@ -1,48 +1,15 @@
 #include "transfer/transfer.h"
 
 #include "platform/events.h"
+#include "tests/support/httppeer.h"
 
-#include <QTcpServer>
-#include <QTcpSocket>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
 
 constexpr int kBound = 5000; // milliseconds
-
-// An HTTP peer on the loopback that says to each path what a test has written down, two bytes at a
-// time where that is short, and then hangs up.
-class Peer : public QTcpServer {
-public:
-    Peer() {
-        listen(QHostAddress::LocalHost);
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket* socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { Hear(socket); });
-        });
-    }
-
-    QString Url(const QString& path) const {
-        return QString("http://127.0.0.1:%1/%2").arg(serverPort()).arg(path);
-    }
-
-    QHash<QByteArray, QByteArray> answers; // by path without "/" in front
-    bool waits = false;                    // does not hang up
-
-private:
-    void Hear(QTcpSocket* socket) {
-        const QByteArray answer = answers.value(socket->readAll().split(' ').value(1).mid(1));
-        const int step = answer.size() < 1000 ? 2 : 100'000;
-        for (qsizetype at = 0; at < answer.size(); at += step) {
-            socket->write(answer.mid(at, step));
-            socket->flush();
-        }
-        if (!waits) {
-            socket->disconnectFromHost();
-        }
-    }
-};
 
 class TransferTest : public testing::Test {
 protected:
@@ -71,7 +38,7 @@ protected:
         ServeEvents();
     }
 
-    Peer peer;
+    HttpPeer peer;
     std::unique_ptr<TransferClient> client;
     QList<int> states;
     std::function<void(int)> atState;
@@ -90,16 +57,18 @@ TEST_F(TransferTest, DocumentsAndFailuresAreToldApart) {
         int code;
         const char* text;
         const char* kind; // the header X-Kind
+        int status = 200;
     } kCases[] = {
         {"whole", kOk + "x-KIND:  a:b \r\nContent-Length: 4\r\n\r\na\xF1o\n", 0, "año\n", "a:b"},
         {"to-the-end", kOk + "\r\nabc", 0, "abc", ""},
         {"chunked", chunked + "3\r\nabc\r\n2\r\nde\r\n0\r\n\r\n", 0, "abcde", ""},
-        {"error-page", "HTTP/1.1 404 Not\r\nContent-Length: 4\r\n\r\nnone", 0, "none", ""},
+        {"error-page", "HTTP/1.1 404 Not\r\nContent-Length: 4\r\n\r\nnone", 0, "none", "", 404},
         {"moved", goTo + "/whole\r\n\r\nold", 0, "año\n", "a:b"},
-        {"moved-to-a-file", goTo + "file:///etc/hostname\r\n\r\nold", kErrServerReply, "", "old"},
+        {"moved-to-a-file", goTo + "file:///etc/hostname\r\n\r\nold", kErrServerReply, "", "old",
+         302},
         {"cut", kOk + "Content-Length: 9\r\n\r\nabc", kErrConnectionReset, "", ""},
         {"chunk-cut", chunked + "9\r\nabc", kErrConnectionReset, "", ""},
-        {"silent", "", kErrConnectionReset, "", ""},
+        {"silent", "", kErrConnectionReset, "", "", 0},
     };
     for (const auto& one : kCases) {
         peer.answers[one.situation] = one.answer;
@@ -109,6 +78,7 @@ TEST_F(TransferTest, DocumentsAndFailuresAreToldApart) {
         EXPECT_EQ(client->ResponseCode(), one.code) << one.situation;
         EXPECT_EQ(client->ResponseInfo().isEmpty(), one.code == 0) << one.situation;
         EXPECT_EQ(client->GetHeader("X-kind"), one.kind) << one.situation;
+        EXPECT_EQ(client->HttpStatus(), one.status) << one.situation;
         EXPECT_EQ(states.last(), one.code == 0 ? kStateCompleted : kStateError) << one.situation;
     }
 }
@@ -127,6 +97,22 @@ TEST_F(TransferTest, ABodyOfAnyBytesIsReadInPieces) {
     EXPECT_TRUE(client->GetChunk(1024) == bytes.left(1024));
     EXPECT_TRUE(client->GetChunk(3'000'000) == bytes.mid(1024));
     EXPECT_EQ(client->GetChunk(1024), "");
+}
+
+TEST_F(TransferTest, WhatHasComeCanBeTakenWhileMoreIsToCome) {
+    peer.waits = true;
+    peer.answers["a"] = kOk + "Content-Length: 9\r\n\r\nabc";
+    QByteArray all;
+    client->Execute(peer.Url("a"), "GET");
+    for (const char* next : {"def", "ghi", ""}) {
+        QByteArray taken;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (taken += client->GetChunk(9)).size() >= 3; }));
+        EXPECT_EQ(client->StillExecuting(), *next != '\0') << taken.constData();
+        peer.Say(next);
+        all += taken;
+    }
+    EXPECT_EQ(all, "abcdefghi");
+    EXPECT_EQ(states.last(), kStateCompleted);
 }
 
 TEST_F(TransferTest, AnUnreachablePeerIsToldByItsNumber) {
