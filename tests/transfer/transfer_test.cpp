@@ -1,7 +1,9 @@
 #include "transfer/transfer.h"
 
 #include "platform/events.h"
+#include "tests/support/files.h"
 #include "tests/support/httppeer.h"
+#include "transfer/signature.h"
 
 #include <QTest>
 #include <QTimer>
@@ -168,4 +170,35 @@ TEST_F(TransferTest, ASecondRequestIsRefusedAndTheFirstGoesOn) {
     Finish();
     EXPECT_EQ(client->GetChunk(9), "abc");
     EXPECT_EQ(states.last(), kStateCompleted);
+}
+
+// The second of the examples in RFC 8032, 7.1, changed in one part each.
+TEST(Signature, CoversTheWholeFileUnderOneKey) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("file");
+    const QByteArray sound =
+        QByteArray::fromHex("92a009a9f0d4cab8720e820b5f642540a2b27b5416503f8fb3762223ebdb69da"
+                            "085ac1e43e15996e458f3613d0f11d8c387b2eaeb4302aeeb00d291612bb0c00");
+    const QString key = "PUAXw+hDiVqStwqnTRt+vJyYLM8uxJaMwM1V8Sr0Zgw=";
+    const QByteArray changed = sound.left(5) + char(sound[5] ^ 1) + sound.mid(6);
+    const std::tuple<QByteArray, QByteArray, QString, bool> kCases[] = {
+        {"r", sound, key, true},
+        {"s", sound, key, false},
+        {"rr", sound, key, false},
+        {"", sound, key, false},
+        {"r", changed, key, false},
+        {"r", sound + '\n', key, false},
+        {"r", "", key, false},
+        {"r", sound, "", false},
+        {"r", sound, key.chopped(4), false},
+        {"r", sound, key.chopped(1) + "!", false},
+        {"r", sound, key.chopped(1) + "A", false},
+        {"r", sound, "GSx+sKQSTGn+zzk56R8iyBZhOTwoRuf/mFDqf8+Q+1U=", false},
+    };
+    for (const auto& [content, signature, publicKey, isSigned] : kCases) {
+        WriteFile(file, content);
+        EXPECT_EQ(IsSigned(file, signature, publicKey), isSigned)
+            << (content + signature.toHex()).toStdString() << publicKey.toStdString();
+    }
+    EXPECT_FALSE(IsSigned(folder.filePath("none"), sound, key));
 }
