@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include "app/mainscreen.h"
+#include "app/update.h"
 #include "app/workflow.h"
 #include "config/configdialog.h"
 #include "core/flavour.h"
@@ -182,6 +183,7 @@ void OpenCatalogue() {
 void ConnectScreens() {
     ConnectMainScreen();
     ConnectPublish();
+    ConnectUpdate();
     QObject::connect(frmMain, &MainForm::Unload, frmMain, EndProgram);
 }
 

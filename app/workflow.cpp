@@ -16,6 +16,8 @@
 #include "store/snapshot.h"
 #include "text/dates.h"
 
+#include <QScopedValueRollback>
+
 PublishOutcome LastOutcome = PublishOutcome::None;
 
 namespace {
@@ -23,6 +25,8 @@ namespace {
 // A run is under way: after a cancel the button is back before the run has noticed, and must not
 // start another one inside it.
 bool publishing = false;
+
+bool underWay = false; // PublishUnderWay: until the press of the button has been answered
 
 void ShowButton(int shown, int hidden) {
     frmMain->cmdUpdateWeb[shown]->setVisible(true);
@@ -122,7 +126,7 @@ void ConnectPublish() {
 }
 
 bool PublishUnderWay() {
-    return publishing;
+    return underWay;
 }
 
 void cmdUpdateWeb_Click(int index) {
@@ -132,6 +136,7 @@ void cmdUpdateWeb_Click(int index) {
     if (index == kPublishUpdate && publishing) {
         return;
     }
+    const QScopedValueRollback<bool> answering(underWay, underWay || index == kPublishUpdate);
     if (index == kPublishUpdate) {
         publishing = true;
         SetAbortPublish(false);

@@ -9,7 +9,8 @@ extern PublishOutcome LastOutcome; // written here; None until a run has ended
 // Connects the buttons of the page "Actualizar Web".
 void ConnectPublish();
 
-// A run has begun and isn't over, also if it has been cancelled.
+// A run has begun and isn't over, also if it has been cancelled; what follows on it, such as that
+// the controls are enabled again, belongs to it.
 bool PublishUnderWay();
 
 // Either PublishButton: kPublishUpdate starts a run and returns when it is over, kPublishCancel

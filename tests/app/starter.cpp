@@ -1,17 +1,19 @@
 // The program as its main() starts it, with a user at hand: each argument is what he does next,
 // when a window waits for him. What he sees goes to standard output, a line a window:
 //
-//   box ICON TITLE: TEXT        answered by "yes", "no" or "ok"
+//   box ICON TITLE: TEXT        answered by "yes", "no" or "ok", which wait for one
 //   login TITLE: TEXT           "password=TEXT" types it and presses OK, "cancel"
 //   config PAGE                 "folder=PATH" types the catalogue's folder and accepts, "cancel"
 //   main TITLE, ...             "reference=TEXT" types over the reference, "minimise", "close";
 //                               "publish=PORT" presses the button with an FTP server at that port,
+//                               "update=HOST" lets the check for a newer build begin there;
 //                               "sending" waits until the first file is on its way; "exit" ends
 //                               the process as the toolkit does when the screen goes away
 //
 // With no more arguments he waits.
 #include "app/mainscreen.h"
 #include "app/startup.h"
+#include "core/addresses.h"
 #include "forms/apploginform.h"
 #include "forms/configform.h"
 #include "forms/mainform.h"
@@ -107,6 +109,9 @@ void Act(const QString& action) {
         FTPControlPort = text.toInt();
         SelectMainTab(kTabPublish);
         frmMain->cmdUpdateWeb[0]->click();
+    } else if (TakeText(action, "update", text)) {
+        Maker.updateService = text;
+        frmMain->tmrUpdate->start(0);
     } else if (action == "minimise") {
         frmMain->showMinimized();
     } else if (action == "close") {
@@ -119,6 +124,10 @@ void Act(const QString& action) {
 void Look() {
     const QString seen = Seen();
     if (acting || seen.isEmpty()) {
+        return;
+    }
+    const bool answers = QStringList{"yes", "no", "ok"}.contains(actions.value(0));
+    if (answers && !seen.startsWith("box")) {
         return;
     }
     if (actions.value(0) == "sending") {

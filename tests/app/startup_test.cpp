@@ -1,11 +1,13 @@
 // From the start of the process to its end, as processes of their own with a user at hand
 // (starter.cpp).
 #include "tests/support/ftpserver.h"
+#include "tests/support/httppeer.h"
 #include "tests/support/templatebuilder.h"
 #include "tests/support/userhome.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
@@ -148,6 +150,32 @@ TEST_F(Startup, ClosingTheWindowEndsAPublishToAServerThatStandsStill) {
     EXPECT_EQ(code, 0);
     EXPECT_EQ(server.Record().sessions, 1);
     EXPECT_TRUE(QString(home.SettingsText()).contains("\nLastWebUpdate=\n"));
+}
+
+// A form that can't be left keeps the installer from being started.
+TEST_F(Startup, AnAcceptedUpdateIsStartedWhenAllIsSavedAndEndsTheProgram) {
+    HttpPeer peer;
+    peer.answers["updates/fileversion.txt"] = HttpAnswer("202611250000");
+    peer.answers["updates/update.exe"] = HttpAnswer("#!/bin/sh\n: >\"$0.ran\"\n");
+    const QString mark = home.Path("data/update.exe.ran");
+    for (const QString reference : {"", "TAZ-9"}) {
+        QProcess program;
+        QStringList actions = {"reference=" + reference, "update=" + peer.Host(), "yes"};
+        Start(program, actions + (reference.isEmpty() ? QStringList{"ok"} : QStringList{}));
+        const auto ended = [&] { return program.state() == QProcess::NotRunning; };
+        QByteArray said;
+        const auto refused = [&] {
+            said += program.readAllStandardOutput();
+            return said.contains("obligatorio");
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ended() || refused(); }, kPatience));
+        EXPECT_EQ(ended(), !reference.isEmpty());
+        EXPECT_EQ(QTest::qWaitFor([&] { return QFile::exists(mark); }, ended() ? kPatience : 0),
+                  !reference.isEmpty());
+        EXPECT_EQ(home.Read("data/Zandora.zdb").contains("TAZ-9"), !reference.isEmpty());
+        program.kill();
+        program.waitForFinished(kPatience);
+    }
 }
 
 TEST_F(Startup, AFlavourFileBesideTheProgramChangesNounsTitleAndMenu) {
