@@ -18,6 +18,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+// What a handshake costs before the server hears of a connection, in ways of one delay.
+constexpr int kHandshake = 3;
+
 constexpr int kIdleWait = 50; // milliseconds, after which the end of the relay is looked for
 constexpr std::chrono::milliseconds kFullWait(1); // until a receiver that is full is tried again
 
@@ -76,10 +79,10 @@ struct Chunk {
 
 // One connection: its two ends, and what is on the way to each.
 struct Link {
-    int ends[2] = {-1, -1}; // client, server; the latter is made when the first bytes would arrive
+    int ends[2] = {-1, -1}; // client, server; the latter is made when the handshake would be over
     int serverPort = 0;
     Clock::time_point connects;
-    bool control = false;
+    bool namesPorts = false;
     bool ended[2] = {false, false};
     std::deque<Chunk> toward[2]; // indexed like ends
     std::string line;            // of the server's reply, not yet whole
@@ -87,8 +90,9 @@ struct Link {
 
 class Traffic {
 public:
-    Traffic(int controlListener, int serverPort, int milliseconds)
-        : delay(milliseconds), listeners{{controlListener, serverPort, true}} {}
+    Traffic(int listener, int serverPort, int milliseconds, RelayedProtocol protocol)
+        : delay(milliseconds), listeners{{listener, serverPort, protocol == RelayedProtocol::Ftp,
+                                          false}} {}
 
     ~Traffic() {
         for (const Link& link : links) {
@@ -126,7 +130,8 @@ private:
     struct Listener {
         int socket;
         int serverPort;
-        bool control; // a data connection's port serves once
+        bool namesPorts; // replies of the server name ports
+        bool once;       // serves one connection
     };
 
     Clock::time_point NextDue() const {
@@ -153,9 +158,9 @@ private:
             Link& link = links.emplace_back();
             link.ends[0] = client;
             link.serverPort = listener.serverPort;
-            link.connects = Clock::now() + delay;
-            link.control = listener.control;
-            if (!listener.control) {
+            link.connects = Clock::now() + kHandshake * delay;
+            link.namesPorts = listener.namesPorts;
+            if (listener.once) {
                 close(listener.socket);
                 listeners.erase(listeners.begin() + static_cast<long>(place--));
             }
@@ -195,7 +200,7 @@ private:
             }
             link.ended[end] = got <= 0;
             std::string received(bytes, size_t(std::max<ssize_t>(got, 0)));
-            if (link.control && end == 1 && got > 0) {
+            if (link.namesPorts && end == 1 && got > 0) {
                 received = WithOwnPorts(link, received);
                 if (received.empty()) {
                     continue;
@@ -218,11 +223,11 @@ private:
             std::smatch parts;
             int own = 0;
             if (std::regex_match(link.line, parts, extended)) {
-                listeners.push_back({Listen(own), std::stoi(parts[2]), false});
+                listeners.push_back({Listen(own), std::stoi(parts[2]), false, true});
                 lines += parts[1].str() + std::to_string(own) + parts[3].str();
             } else if (std::regex_match(link.line, parts, plain)) {
                 const int port = std::stoi(parts[2]) * 256 + std::stoi(parts[3]);
-                listeners.push_back({Listen(own), port, false});
+                listeners.push_back({Listen(own), port, false, true});
                 lines += parts[1].str() + std::to_string(own / 256) + "," +
                          std::to_string(own % 256) + parts[4].str();
             } else {
@@ -263,10 +268,10 @@ private:
 
 } // namespace
 
-DelayRelay::DelayRelay(int serverPort, int milliseconds) {
+DelayRelay::DelayRelay(int serverPort, int milliseconds, RelayedProtocol protocol) {
     const int listener = Listen(port);
-    thread = std::thread([this, listener, serverPort, milliseconds] {
-        Traffic traffic(listener, serverPort, milliseconds);
+    thread = std::thread([this, listener, serverPort, milliseconds, protocol] {
+        Traffic traffic(listener, serverPort, milliseconds, protocol);
         while (!ends) {
             traffic.Turn();
         }

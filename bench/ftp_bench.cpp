@@ -4,6 +4,7 @@
 // Prints medians and ratios. A number as argument bounds the files that are sent over the delay:
 // all of them take half an hour.
 #include "bench/delayrelay.h"
+#include "bench/measure.h"
 #include "core/settings.h"
 #include "forms/mainform.h"
 #include "platform/notify.h"
@@ -63,7 +64,7 @@ public:
             qFatal("The server does not start");
         }
         if (delay > 0) {
-            relay.emplace(Port, delay);
+            relay.emplace(Port, delay, RelayedProtocol::Ftp);
             Port = relay->Port();
         }
     }
@@ -123,11 +124,6 @@ double SendByLftp(const Target& target, const QString& folder, const QString& co
     return double(timer.nsecsElapsed()) / 1e9;
 }
 
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 std::map<QByteArray, int> CountCommands(const Target& target) {
     std::map<QByteArray, int> counts;
     for (const QByteArray& command : target.server.Commands()) {
@@ -179,26 +175,6 @@ void Compare(int count, int bytes, int delay, int repetitions) {
                 Median(ratios), *std::min_element(ratios.begin(), ratios.end()),
                 *std::max_element(ratios.begin(), ratios.end()), Median(own) * 1000 / count,
                 Median(theirs) * 1000 / count, proper ? "yes" : "NO");
-}
-
-// A value of this process in kilobytes, by its name in the system's status.
-int Memory(const QByteArray& name) {
-    QFile status("/proc/self/status");
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            if (line.startsWith(name)) {
-                return line.mid(name.size()).simplified().split(' ').first().toInt();
-            }
-        }
-    }
-    return 0;
-}
-
-void ForgetPeak() {
-    QFile peaks("/proc/self/clear_refs");
-    if (!peaks.open(QIODevice::WriteOnly) || peaks.write("5") != 1) {
-        qFatal("The peak of memory cannot be measured");
-    }
 }
 
 void MeasureMemory() {
