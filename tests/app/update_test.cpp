@@ -48,7 +48,7 @@ protected:
         ConnectUpdate();
         Serve("fileversion.txt", HttpAnswer("202611250000"));
     }
-    ~UpdateTest() override { Maker = {}; }
+    void TearDown() override { Maker = {}; }
 
     void Serve(const QByteArray& file, const QByteArray& answer) {
         peer.answers["updates/" + file] = answer;

@@ -149,7 +149,7 @@ TEST_F(TransferTest, ASlotMayCancelAndAskAnewOrDeleteTheClient) {
             Renew();
             atState = [&](int state) {
                 if (state == at) {
-                    atState = {};
+                    const auto running = std::exchange(atState, nullptr); // still this one
                     act();
                     ServeEvents();
                 }
