@@ -82,6 +82,7 @@ TcpSocket::TcpSocket(QObject* parent)
     : QObject(parent), reader(new QSocketNotifier(QSocketNotifier::Read, this)),
       writer(new QSocketNotifier(QSocketNotifier::Write, this)), timer(new QTimer(this)) {
     timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer); // a coarse one may be early, and with it the next turn
     connect(reader, &QSocketNotifier::activated, this, &TcpSocket::Read);
     connect(writer, &QSocketNotifier::activated, this, [this] {
         if (state == kSocketConnecting) {
