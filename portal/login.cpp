@@ -12,6 +12,7 @@
 QByteArray PortalCookie;
 QByteArray PortalAgentId;
 QByteArray PortalLoginPage;
+int PortalLoginStatus = 0;
 
 namespace {
 
@@ -39,10 +40,16 @@ std::optional<QByteArray> AgentIn(const QByteArray& page) {
     return page.mid(start, end - start).split('=').at(1);
 }
 
+int StatusOf(const QByteArray& response) {
+    const QByteArray start = response.left(response.indexOf('\r'));
+    return start.startsWith("HTTP/") ? start.split(' ').value(1).toInt() : 0;
+}
+
 } // namespace
 
 void ResetPortalLogin() {
     PortalCookie.clear();
+    PortalLoginStatus = 0;
 }
 
 bool PortalLogin(const QString& user, const QString& password) {
@@ -50,6 +57,7 @@ bool PortalLogin(const QString& user, const QString& password) {
     ReportActivity(QString("Entrando en %1...").arg(VSname));
     const QByteArray body = "email=" + ToAnsi(user) + "&password=" + ToAnsi(password);
     const QByteArray response = PortalExchange(LoginRequest(body));
+    PortalLoginStatus = StatusOf(response);
     const std::optional<QByteArray> agent = AgentIn(response);
     if (!agent) {
         return false;
@@ -87,6 +95,7 @@ QByteArray PortalExchange(const QByteArray& request) {
         if (!broken()) {
             return PortalSockets[0].Received;
         }
+        ReportActivity(QString("%1 no responde. Se vuelve a intentar...").arg(VSname));
     }
 }
 

@@ -7,7 +7,8 @@
 
 extern QByteArray PortalCookie;    // of the answer, whole, attributes included; may be empty
 extern QByteArray PortalAgentId;   // the agent's number
-extern QByteArray PortalLoginPage; // the answer, headers and body
+extern QByteArray PortalLoginPage; // the answer, headers and body, of a log-in that was good
+extern int PortalLoginStatus;      // of the answer (RFC 9110); 0 without one
 
 // At the beginning of a session.
 void ResetPortalLogin();

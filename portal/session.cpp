@@ -15,6 +15,9 @@ namespace {
 // Of the bar, when all has gone.
 constexpr int kWholeTask = 5;
 
+// Answers from this status on are about the portal, not about who logs in.
+constexpr int kServerErrors = 400;
+
 bool AllJobsDone() {
     return PortalDoneCount >= static_cast<int>(PortalJobs.size());
 }
@@ -30,6 +33,12 @@ QString LoginProblem() {
     }
     if (PortalGivenUp()) {
         return QString("%1 no responde.").arg(VSname);
+    }
+    if (PortalLoginStatus == 0) {
+        return QString("%1 ha cortado la conexión sin contestar.").arg(VSname);
+    }
+    if (PortalLoginStatus >= kServerErrors) {
+        return QString("%1 ha contestado con un error (%2).").arg(VSname).arg(PortalLoginStatus);
     }
     return QString("%1 no admite el usuario o la clave.").arg(VSname);
 }
