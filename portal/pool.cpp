@@ -225,6 +225,9 @@ void PortalQueueRequest(const QString& name, const QByteArray& request, bool isP
     }
     ServeEvents();
     WaitForPortal([] { return unfinished < kMostWaiting; });
+    if (PortalGivenUp()) { // an album that was broken off must not stand for the whole one
+        return;
+    }
     const PortalJob& last = PortalJobs.back();
     if (last.State != kJobWaiting || !last.Request.isEmpty()) {
         PortalJobs.emplace_back();

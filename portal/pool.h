@@ -58,7 +58,7 @@ void SetPortalLoggedIn();
 void ResetPortalJobs();
 
 // Adds a job, after one socket more at the most has been connected and the event loop served. Where
-// many bytes wait already the portal is waited for first.
+// many bytes wait already the portal is waited for first. Adds nothing once it is given up.
 void PortalQueueRequest(const QString& name, const QByteArray& request, bool isPicture);
 
 // The user has cancelled the run, or it has none and PortalPatience is at an end.

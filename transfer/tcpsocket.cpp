@@ -130,7 +130,7 @@ QByteArray TcpSocket::GetData() {
 }
 
 void TcpSocket::Close() {
-    QHostInfo::abortHostLookup(std::exchange(lookup, -1));
+    lookup = -1; // what it finds is passed over
     CloseHandle();
     timer->stop();
     addresses.clear();

@@ -50,7 +50,7 @@ public:
 
     // Starts a connection and returns at once. Behind an error of this socket it waits for its
     // turn: all sockets together then start one each SocketPace. std::runtime_error if the
-    // socket isn't closed or the local port can't be had.
+    // socket isn't closed.
     void Connect(const QString& host, int port);
 
     // Hands over bytes, which stay in memory until the system has taken them; nothing unless

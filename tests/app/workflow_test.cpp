@@ -72,6 +72,11 @@ struct Outcome {
     bool filesKept;    // OutputFiles still hold the site
 };
 
+Outcome OutcomeOf(const QStringList& row) {
+    return {row[2].toStdString(), row[3].toStdString(), row[4].toStdString(),
+            row[5].toInt(),       row[6] == "yes",      row[7] == "yes"};
+}
+
 class Workflow : public testing::Test {
 protected:
     explicit Workflow(Trade trade = Trade::Generic) : program(kSmallCatalogue, trade) {}
@@ -255,14 +260,12 @@ protected:
         SaveSetting(AppName, "Vestalia", "VSurl", "127.0.0.1");
         LoadSettings();
         SetFTP("127.0.0.1", "/web", "ana", "clave");
-        Begin();
+        SetStorage(kStorageFTP, {});
         SetPortalAccount(user, "clave");
         SelectMainTab(kTabPublish);
-        prepare();
         Publish();
     }
 
-    std::function<void()> prepare = [] {};
     std::unique_ptr<PortalPeer> peer;
 };
 
@@ -322,8 +325,7 @@ TEST_F(Workflow, EachWayARunIsRefusedOrCancelledLeavesWhatItShould) {
         EXPECT_EQ(Sent(), sent);
         EXPECT_EQ(Recorded(), sent);
         EXPECT_EQ(frmMain->lblRemaining->text(), "");
-        Expect({row[2].toStdString(), row[3].toStdString(), row[4].toStdString(), row[5].toInt(),
-                row[6] == "yes", row[7] == "yes"});
+        Expect(OutcomeOf(row));
     }
 }
 
@@ -461,47 +463,24 @@ TEST_F(Agency, ThePortalsOutcomeStandsInItsOwnStepAndNotInThatOfTheSite) {
     const auto silent = [](int connection) {
         return connection == 0 ? Portal(0) : PortalManners{.answer = "", .end = End::StayOpen};
     };
-    const auto cancelsWhenSilent = [this] {
-        QObject::connect(&clock, &QTimer::timeout, frmMain, [this] {
-            const bool told = frmMain->lblInfo->text() == "Enviando a Vestalia: 0 de 6";
-            if (told && peer->Requests().size() == 7 && !AbortPublish) {
-                EXPECT_EQ(StepLetters(), "ddddc");
-                ExpectScreens(true);
-                Cancel();
-            }
-        });
-    };
-    const struct {
-        const char* user;
-        PortalPeer::Manners manners;
-        std::function<void()> prepare;
-        qsizetype requests;
-        Outcome outcome;
-    } kRuns[] = {
-        {"",
-         Portal,
-         [] {},
-         0,
-         {"ddddf", "", "La web se ha publicado. Falta el usuario de Vestalia", 910, true, false}},
-        {"ana", Portal, [] {}, 7, {"ddddd", "", "Última actualización", 510, true, false}},
-        {"ana",
-         Portal,
-         [this] { Prepare("wrong password"); },
-         7,
-         {"ddffd", "warning: Error al conectar con el servidor FTP '127.0.0.1'. 530 Who?", kNotDone,
-          510, false, false}},
-        {"ana",
-         silent,
-         cancelsWhenSilent,
-         7,
-         {"ddddf", "", "La web se ha publicado. Se ha cancelado el envío a Vestalia.", 10, true,
-          false}},
-    };
-    for (const auto& run : kRuns) {
-        prepare = run.prepare;
-        PublishAs(run.user, run.manners);
-        EXPECT_EQ(peer->Requests().size(), run.requests);
-        Expect(run.outcome);
+    QObject::connect(&clock, &QTimer::timeout, frmMain, [this] {
+        if (frmMain->lblInfo->text() == "Enviando a Vestalia: 0 de 6" && !AbortPublish &&
+            peer->Requests().size() == 7) {
+            EXPECT_EQ(StepLetters(), "ddddc");
+            ExpectScreens(true);
+            Cancel();
+        }
+    });
+    for (const QStringList& row : ReadTable(ENDINGS, "of an agency")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const bool isSilent = row[0] == "cancelled in silence";
+        Begin();
+        if (row[0] == "wrong password") {
+            Prepare(row[0]);
+        }
+        PublishAs(row[0] == "no user" ? "" : "ana", isSilent ? silent : Portal);
+        EXPECT_EQ(peer->Requests().size(), row[1].toInt());
+        Expect(OutcomeOf(row));
         EndSession();
     }
 }

@@ -25,17 +25,7 @@
 
 namespace {
 
-constexpr char kTexts[] = R"(
-    textdef; Products; 0; ShortDesc
-    textdef; Products; 1; LongDesc)";
-
 constexpr char kHomes[] = R"(
-    def; 0; T; ESSuperficie
-    def; 1; O; ESTipo; ESPisos#ENFlats|ESFincas rusticas#ENFarms
-    def; 2; T; ESIndividuales
-    def; 3; T; ESDobles
-    def; 4; B; ESBaño
-    def; 5; T; ESAseos
     def; 6; I; Dueño
     product; 10001; PI-1; 100.5; 0; Norte & Sur; 2026-01-01T10:00:00
     product; 10002; PI-2; NULL; 1; NULL; 2026-01-01T10:00:00
@@ -87,7 +77,7 @@ protected:
         SaveSetting(AppName, "Vestalia", "VSurl", host);
         SaveSetting(AppName, "Params", "DeletedItems", deleted);
         catalogue.reset();
-        catalogue = std::make_unique<TestCatalogue>(kTexts + ('\n' + rows));
+        catalogue = std::make_unique<TestCatalogue>(kAgencyFields + rows);
         for (int picture : {1000101, 1000103}) {
             const QSize size = picture == 1000101 ? QSize(80, 60) : QSize(100, 150);
             WriteFile(catalogue->Folder() + QString("Pic%1.dat").arg(picture),

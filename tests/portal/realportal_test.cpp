@@ -20,14 +20,6 @@ namespace {
 
 // The album of 10001 is sorted anew, and the file of its third picture is missing.
 constexpr char kAgency[] = R"(
-    textdef; Products; 0; ShortDesc
-    textdef; Products; 1; LongDesc
-    def; 0; T; ESSuperficie
-    def; 1; O; ESTipo; ESPisos#ENFlats|ESFincas rusticas#ENFarms
-    def; 2; T; ESIndividuales
-    def; 3; T; ESDobles
-    def; 4; B; ESBaño
-    def; 5; T; ESAseos
     product; 10001; PI-1; 100.5; 1; Norte; 2026-01-01T10:00:00
     product; 10002; PI-2; NULL; 0; NULL; 2026-01-01T10:00:00
     fields; 10001; 80 m2; 1; ; 2; 0; 1
@@ -87,7 +79,7 @@ TEST(RealPortal, UnderstandsARunAndListsWhatNeedsNoOther) {
     LoadFlavour("/nowhere/");
     SaveSetting(AppName, "Vestalia", "VSurl", "127.0.0.1");
     SaveSetting(AppName, "Params", "DeletedItems", "P10009|I1000102");
-    TestCatalogue catalogue(kAgency);
+    TestCatalogue catalogue(QString(kAgencyFields) + kAgency);
     WriteFile(catalogue.Folder() + "Pic1000101.dat", MakeJpeg(FourFields({1200, 700})));
     WriteFile(catalogue.Folder() + "Pic1000102.dat", MakeJpeg(FourFields({100, 200})));
     SetPortalAccount(kPortalUser, kPortalPassword);

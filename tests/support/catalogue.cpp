@@ -10,6 +10,17 @@
 #include <QHash>
 #include <gtest/gtest.h>
 
+const char kAgencyFields[] = R"(
+    def; 0; T; ESSuperficie
+    def; 1; O; ESTipo; ESPisos#ENFlats|ESFincas rusticas#ENFarms
+    def; 2; T; ESIndividuales
+    def; 3; T; ESDobles
+    def; 4; B; ESBaño
+    def; 5; T; ESAseos
+    textdef; Products; 0; ShortDesc
+    textdef; Products; 1; LongDesc
+)";
+
 namespace {
 
 // Table and columns of each kind of line.

@@ -20,6 +20,9 @@
 #include <QString>
 #include <QTemporaryDir>
 
+// Definitions of an agency's catalogue: the six fields that the portal reads, and its two texts.
+extern const char kAgencyFields[];
+
 class TestCatalogue {
 public:
     // The settings are read anew and get this catalogue's folder; the company's data are loaded.
